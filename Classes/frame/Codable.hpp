@@ -1,0 +1,174 @@
+// The Typed face's record declarations: a record lists its coding keys once, beside its members,
+//
+//   struct AutoUpdateModel {
+//     bool hasUpdate;
+//     bool forceUpdate;
+//     static constexpr auto codingKeys = qb::codingKeys(
+//         qb::key("has_update", &AutoUpdateModel::hasUpdate),
+//         qb::key("force_update", &AutoUpdateModel::forceUpdate));
+//     bool operator==(const AutoUpdateModel&) const = default;
+//   };
+//
+// and every encoder and decoder works from that declaration. A member of type std::optional<T> is
+// optional (if-present form); any other member is required.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "frame/Date.hpp"
+#include "frame/Enum.hpp"
+#include "frame/HostTypes.hpp"
+
+namespace qb {
+
+// One coding key: the JSON key and the member it codes.
+template <class Owner, class T>
+struct CodingKey {
+  using Member = T;
+  static constexpr bool isFile = false;
+  std::string_view name;
+  T Owner::*member;
+};
+
+// A file member of a request: never encoded; the request turns it into a multipart body.
+template <class Owner, class T>
+struct FileKey {
+  using Member = T;
+  static constexpr bool isFile = true;
+  std::string_view name;
+  T Owner::*member;
+};
+
+template <class Owner, class T>
+constexpr CodingKey<Owner, T> key(std::string_view name, T Owner::*member) {
+  return {name, member};
+}
+
+template <class Owner>
+constexpr FileKey<Owner, std::optional<APIFile>> file(std::string_view name, std::optional<APIFile> Owner::*member) {
+  return {name, member};
+}
+
+template <class... Keys>
+constexpr std::tuple<Keys...> codingKeys(Keys... keys) {
+  return std::tuple<Keys...>{keys...};
+}
+
+// A record with a coding-key declaration.
+template <class T>
+concept Codable = requires { std::tuple_size<std::remove_cv_t<decltype(T::codingKeys)>>::value; };
+
+template <class T>
+struct IsOptional : std::false_type {};
+template <class T>
+struct IsOptional<std::optional<T>> : std::true_type {};
+
+template <class T>
+struct IsVector : std::false_type {};
+template <class T, class A>
+struct IsVector<std::vector<T, A>> : std::true_type {};
+
+template <class T>
+struct IsStringMap : std::false_type {};
+template <class T, class C, class A>
+struct IsStringMap<std::map<std::string, T, C, A>> : std::true_type {};
+
+namespace detail {
+
+template <class T>
+inline constexpr std::size_t keyCount = std::tuple_size_v<std::remove_cv_t<decltype(T::codingKeys)>>;
+
+constexpr std::uint32_t keyHash(std::string_view text, std::uint32_t seed) noexcept {
+  std::uint32_t h = 2166136261u ^ seed;
+  for (char c : text) h = (h ^ static_cast<unsigned char>(c)) * 16777619u;
+  return h ^ (h >> 15);
+}
+
+// A collision-free hash table over a record's keys, found at compile time, so that a key in a reply is
+// matched with one hash and one comparison however many keys the record has.
+template <class T>
+struct KeyTable {
+  static constexpr std::size_t count = keyCount<T>;
+
+  static constexpr std::array<std::string_view, count> names = [] {
+    std::array<std::string_view, count> out{};
+    std::apply([&](const auto&... k) {
+      std::size_t i = 0;
+      ((out[i++] = k.name), ...);
+    }, T::codingKeys);
+    return out;
+  }();
+
+  struct Layout {
+    std::uint32_t seed = 0;
+    std::uint32_t mask = 0;
+    std::array<std::uint8_t, 256> slots{};  // key index + 1; 0 = empty
+  };
+
+  static constexpr Layout layout = [] {
+    static_assert(count < 64, "a record may declare at most 63 keys");
+    Layout out;
+    std::size_t size = 1;
+    while (size < count * 2) size *= 2;
+    for (; size <= 256; size *= 2) {
+      for (std::uint32_t seed = 0; seed < 4096; ++seed) {
+        std::array<std::uint8_t, 256> slots{};
+        bool ok = true;
+        for (std::size_t i = 0; i < count && ok; ++i) {
+          auto& slot = slots[keyHash(names[i], seed) & (size - 1)];
+          if (slot != 0) ok = false;
+          slot = static_cast<std::uint8_t>(i + 1);
+        }
+        if (ok) {
+          out.seed = seed;
+          out.mask = static_cast<std::uint32_t>(size - 1);
+          out.slots = slots;
+          return out;
+        }
+      }
+    }
+    return out;  // unreachable for distinct keys
+  }();
+
+  // The index of `text` among the keys, or -1: keys match only by their exact text.
+  static constexpr int find(std::string_view text) noexcept {
+    if constexpr (count == 0) {
+      return -1;
+    } else {
+      const std::uint8_t slot = layout.slots[keyHash(text, layout.seed) & layout.mask];
+      if (slot == 0) return -1;
+      const std::string_view candidate = names[slot - 1];
+      return candidate == text ? slot - 1 : -1;
+    }
+  }
+};
+
+// Calls f(key) for the key with runtime index `index`.
+template <class T, class F>
+constexpr void visitKey(int index, F&& f) {
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    (void)((index == static_cast<int>(I) ? (f(std::get<I>(T::codingKeys)), true) : false) || ...);
+  }(std::make_index_sequence<keyCount<T>>{});
+}
+
+}  // namespace detail
+
+// The index of the coding key whose JSON key is exactly `text`, or std::nullopt. (Keys have no integer form.)
+template <Codable T>
+constexpr std::optional<std::size_t> codingKeyIndex(std::string_view text) noexcept {
+  const int index = detail::KeyTable<T>::find(text);
+  if (index < 0) return std::nullopt;
+  return static_cast<std::size_t>(index);
+}
+
+}  // namespace qb

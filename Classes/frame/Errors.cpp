@@ -1,0 +1,75 @@
+#include "frame/Errors.hpp"
+
+namespace qb {
+
+ParameterCheckFailException ParameterCheckFailException::missing(std::string_view field, std::string_view model) {
+  std::string reason;
+  reason.reserve(field.size() + model.size() + 21);
+  reason.append(field).append(" is missing in model ").append(model);
+  return ParameterCheckFailException(std::move(reason));
+}
+
+std::string renderCodingPath(const CodingPath& path) {
+  std::string out;
+  for (const auto& element : path) {
+    if (const auto* key = std::get_if<std::string>(&element)) {
+      if (!out.empty()) out += '.';
+      out += *key;
+    } else {
+      out += '[';
+      out += std::to_string(std::get<std::size_t>(element));
+      out += ']';
+    }
+  }
+  return out;
+}
+
+std::string_view kindName(DecodingError::Kind kind) noexcept {
+  switch (kind) {
+    case DecodingError::Kind::keyNotFound: return "keyNotFound";
+    case DecodingError::Kind::valueNotFound: return "valueNotFound";
+    case DecodingError::Kind::typeMismatch: return "typeMismatch";
+    case DecodingError::Kind::dataCorrupted: return "dataCorrupted";
+  }
+  return "unknown";
+}
+
+namespace {
+std::string renderError(std::string_view kind, const CodingPath& path, const std::string& description) {
+  std::string text(kind);
+  text += " at ";
+  text += path.empty() ? std::string("<root>") : renderCodingPath(path);
+  text += ": ";
+  text += description;
+  return text;
+}
+}  // namespace
+
+DecodingError::DecodingError(Kind kind, CodingPath path, std::string debugDescription)
+    : std::runtime_error(renderError(kindName(kind), path, debugDescription)),
+      kind_(kind),
+      path_(std::move(path)),
+      description_(std::move(debugDescription)) {}
+
+DecodingError DecodingError::prefixed(CodingPathElement element) const {
+  CodingPath path;
+  path.reserve(path_.size() + 1);
+  path.push_back(std::move(element));
+  path.insert(path.end(), path_.begin(), path_.end());
+  return DecodingError(kind_, std::move(path), description_);
+}
+
+EncodingError::EncodingError(CodingPath path, std::string debugDescription)
+    : std::runtime_error(renderError("invalidValue", path, debugDescription)),
+      path_(std::move(path)),
+      description_(std::move(debugDescription)) {}
+
+EncodingError EncodingError::prefixed(CodingPathElement element) const {
+  CodingPath path;
+  path.reserve(path_.size() + 1);
+  path.push_back(std::move(element));
+  path.insert(path.end(), path_.begin(), path_.end());
+  return EncodingError(std::move(path), description_);
+}
+
+}  // namespace qb

@@ -1,0 +1,79 @@
+// Error types raised by both faces of the library.
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace qb {
+
+// Raised by the Dictionary face when a required field or parameter is absent (or JSON null).
+// `reason()` is "<field> is missing in model <Model>"; `name()` is always "ParameterCheckFailException".
+class ParameterCheckFailException : public std::exception {
+ public:
+  explicit ParameterCheckFailException(std::string reason) : reason_(std::move(reason)) {}
+  static ParameterCheckFailException missing(std::string_view field, std::string_view model);
+
+  std::string_view name() const noexcept { return "ParameterCheckFailException"; }
+  const std::string& reason() const noexcept { return reason_; }
+  const char* what() const noexcept override { return reason_.c_str(); }
+
+ private:
+  std::string reason_;
+};
+
+// A JSON value used as something it is not: a null or a list read as an integer, a text read as a
+// nested record, a null element in a list of records. Raised by the Dictionary face.
+class JsonTypeError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// One step of a coding path: a key of an object or an index into a list.
+using CodingPathElement = std::variant<std::string, std::size_t>;
+using CodingPath = std::vector<CodingPathElement>;
+
+// Renders a coding path as "config.legal_config.privacy_policy_version" or "faqs[2].title".
+std::string renderCodingPath(const CodingPath& path);
+
+// Failure of the Typed face's decoding. `codingPath()` leads from the reply's root to the failing value.
+class DecodingError : public std::runtime_error {
+ public:
+  enum class Kind { keyNotFound, valueNotFound, typeMismatch, dataCorrupted };
+
+  DecodingError(Kind kind, CodingPath path, std::string debugDescription);
+
+  Kind kind() const noexcept { return kind_; }
+  const CodingPath& codingPath() const noexcept { return path_; }
+  const std::string& debugDescription() const noexcept { return description_; }
+  // Returns a copy with `element` put in front of the path: used while the error travels up.
+  DecodingError prefixed(CodingPathElement element) const;
+
+ private:
+  Kind kind_;
+  CodingPath path_;
+  std::string description_;
+};
+
+std::string_view kindName(DecodingError::Kind kind) noexcept;
+
+// Failure of the Typed face's encoding (for example a non-finite double) or of turning a
+// Dictionary-face record parameter into JSON text.
+class EncodingError : public std::runtime_error {
+ public:
+  EncodingError(CodingPath path, std::string debugDescription);
+
+  const CodingPath& codingPath() const noexcept { return path_; }
+  const std::string& debugDescription() const noexcept { return description_; }
+  EncodingError prefixed(CodingPathElement element) const;
+
+ private:
+  CodingPath path_;
+  std::string description_;
+};
+
+}  // namespace qb

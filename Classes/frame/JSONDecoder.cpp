@@ -1,0 +1,81 @@
+#include "frame/detail/JSONDecoderImpl.hpp"
+
+namespace qb::detail {
+
+void throwStreamFailure() { throw StreamFailure{}; }
+
+simdjson::ondemand::document& openDocument(std::string_view json) {
+  thread_local simdjson::ondemand::parser parser;
+  thread_local std::string buffer;
+  thread_local simdjson::ondemand::document document;
+  // Large buffers are not kept past the next reply.
+  if (buffer.capacity() > (std::size_t{8} << 20) && json.size() < (std::size_t{1} << 20)) {
+    std::string().swap(buffer);
+  }
+  buffer.assign(json);
+  buffer.append(simdjson::SIMDJSON_PADDING, '\0');
+  simdjson::padded_string_view padded(buffer.data(), json.size(), buffer.size());
+  if (parser.iterate(padded).get(document)) throwStreamFailure();
+  return document;
+}
+
+JsonValue streamToValue(simdjson::ondemand::value value, std::size_t depth) {
+  simdjson::ondemand::json_type type;
+  if (value.type().get(type)) throwStreamFailure();
+  switch (type) {
+    case simdjson::ondemand::json_type::object: {
+      if (depth >= kMaxJsonDepth) throwStreamFailure();
+      simdjson::ondemand::object object;
+      if (value.get_object().get(object)) throwStreamFailure();
+      JsonMap map;
+      for (auto result : object) {
+        simdjson::ondemand::field field;
+        if (std::move(result).get(field)) throwStreamFailure();
+        const std::string_view key = fieldKey(field);
+        std::string owned(key);
+        map.insert_or_assign(owned, streamToValue(field.value(), depth + 1));
+      }
+      return map;
+    }
+    case simdjson::ondemand::json_type::array: {
+      if (depth >= kMaxJsonDepth) throwStreamFailure();
+      simdjson::ondemand::array array;
+      if (value.get_array().get(array)) throwStreamFailure();
+      JsonList list;
+      for (auto result : array) {
+        simdjson::ondemand::value element;
+        if (std::move(result).get(element)) throwStreamFailure();
+        list.push_back(streamToValue(element, depth + 1));
+      }
+      return list;
+    }
+    case simdjson::ondemand::json_type::string: {
+      std::string_view s;
+      if (value.get_string().get(s)) throwStreamFailure();
+      return JsonValue(s);
+    }
+    case simdjson::ondemand::json_type::number: {
+      simdjson::ondemand::number number;
+      if (value.get_number().get(number)) throwStreamFailure();
+      switch (number.get_number_type()) {
+        case simdjson::ondemand::number_type::signed_integer: return JsonValue(number.get_int64());
+        case simdjson::ondemand::number_type::unsigned_integer: return JsonValue(number.get_uint64());
+        case simdjson::ondemand::number_type::floating_point_number: return JsonValue(number.get_double());
+      }
+      throwStreamFailure();
+    }
+    case simdjson::ondemand::json_type::boolean: {
+      bool b;
+      if (value.get_bool().get(b)) throwStreamFailure();
+      return JsonValue(b);
+    }
+    case simdjson::ondemand::json_type::null: {
+      bool null = false;
+      if (value.is_null().get(null) || !null) throwStreamFailure();
+      return JsonValue(nullptr);
+    }
+  }
+  throwStreamFailure();
+}
+
+}  // namespace qb::detail

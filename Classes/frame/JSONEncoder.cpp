@@ -1,0 +1,34 @@
+#include "frame/JSONEncoder.hpp"
+
+#include <simdjson.h>
+
+
+namespace qb::detail {
+
+void JsonTextSink::writeDouble(double d) {
+  comma();
+  if (!appendJsonDouble(out_, d)) throw EncodingError({}, "Unable to encode a non-finite Double directly in JSON.");
+}
+
+void JsonTextSink::writeAny(const JsonValue& value) {
+  comma();
+  out_ += toJson(value);
+}
+
+void JsonTextSink::writeQuoted(std::string_view s) {
+  if (!appendQuotedJson(out_, s)) throw EncodingError({}, "Unable to encode a string that is not valid UTF-8.");
+}
+
+void checkWritable(std::string_view text) {
+  if (!simdjson::validate_utf8(text.data(), text.size())) {
+    throw EncodingError({}, "Unable to encode a string that is not valid UTF-8.");
+  }
+}
+
+[[noreturn]] void throwMismatch(std::string_view expected, const JsonValue& found) {
+  throw DecodingError(DecodingError::Kind::typeMismatch, {},
+                      "Expected to decode " + std::string(expected) + " but found " +
+                          std::string(describeKind(found)) + " instead.");
+}
+
+}  // namespace qb::detail

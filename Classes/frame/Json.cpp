@@ -1,0 +1,249 @@
+#include "frame/Json.hpp"
+
+#include <simdjson.h>
+
+#include <charconv>
+#include <cmath>
+
+#include "frame/Errors.hpp"
+
+namespace qb {
+namespace {
+
+DecodingError corrupted(std::string description) {
+  return DecodingError(DecodingError::Kind::dataCorrupted, {}, std::move(description));
+}
+
+DecodingError parseFailure(simdjson::error_code error) {
+  switch (error) {
+    case simdjson::DEPTH_ERROR:
+      return corrupted("The given data nests deeper than " + std::to_string(kMaxJsonDepth) + " levels.");
+    case simdjson::UTF8_ERROR:
+      return corrupted("The given data is not valid UTF-8.");
+    case simdjson::NUMBER_ERROR:
+    case simdjson::NUMBER_OUT_OF_RANGE:
+      return corrupted("The given data holds a number that cannot be represented.");
+    default:
+      return corrupted(std::string("The given data was not valid JSON: ") + simdjson::error_message(error));
+  }
+}
+
+JsonValue convert(simdjson::dom::element element, const boost::json::storage_ptr& storage) {
+  switch (element.type()) {
+    case simdjson::dom::element_type::OBJECT: {
+      simdjson::dom::object source = element.get_object().value_unsafe();
+      JsonMap map(storage);
+      map.reserve(source.size());
+      for (auto field : source) map.insert_or_assign(field.key, convert(field.value, storage));
+      return JsonValue(std::move(map));
+    }
+    case simdjson::dom::element_type::ARRAY: {
+      simdjson::dom::array source = element.get_array().value_unsafe();
+      JsonList list(storage);
+      list.reserve(source.size());
+      for (auto child : source) list.push_back(convert(child, storage));
+      return JsonValue(std::move(list));
+    }
+    case simdjson::dom::element_type::STRING:
+      return JsonValue(boost::json::string(element.get_string().value_unsafe(), storage));
+    case simdjson::dom::element_type::INT64:
+      return JsonValue(element.get_int64().value_unsafe(), storage);
+    case simdjson::dom::element_type::UINT64:
+      return JsonValue(element.get_uint64().value_unsafe(), storage);
+    case simdjson::dom::element_type::DOUBLE:
+      return JsonValue(element.get_double().value_unsafe(), storage);
+    case simdjson::dom::element_type::BOOL:
+      return JsonValue(element.get_bool().value_unsafe(), storage);
+    case simdjson::dom::element_type::NULL_VALUE:
+      break;
+  }
+  return JsonValue(nullptr, storage);
+}
+
+simdjson::dom::parser& threadParser() {
+  thread_local simdjson::dom::parser parser;
+  return parser;
+}
+
+// Writes JSON text; `indent` < 0 means compact. Returns false on a value that is not JSON.
+class Writer {
+ public:
+  Writer(std::string& out, int indent) : out_(out), indent_(indent) {}
+
+  bool write(const JsonValue& value, std::size_t depth = 0) {
+    switch (value.kind()) {
+      case boost::json::kind::null: out_ += "null"; return true;
+      case boost::json::kind::bool_: out_ += value.get_bool() ? "true" : "false"; return true;
+      case boost::json::kind::int64: return number(value.get_int64());
+      case boost::json::kind::uint64: return number(value.get_uint64());
+      case boost::json::kind::double_: return real(value.get_double());
+      case boost::json::kind::string: return text(value.get_string());
+      case boost::json::kind::array: return list(value.get_array(), depth + 1);
+      case boost::json::kind::object: return map(value.get_object(), depth + 1);
+    }
+    return false;
+  }
+
+  bool map(const JsonMap& members, std::size_t depth = 1) {
+    if (depth > kMaxJsonDepth) return false;
+    out_ += '{';
+    bool first = true;
+    for (const auto& member : members) {
+      if (!first) out_ += ',';
+      first = false;
+      newline(depth);
+      if (!text(member.key())) return false;
+      out_ += indent_ < 0 ? ":" : ": ";
+      if (!write(member.value(), depth)) return false;
+    }
+    if (!members.empty()) newline(depth - 1);
+    out_ += '}';
+    return true;
+  }
+
+ private:
+  template <class Int>
+  bool number(Int n) {
+    char buffer[24];
+    auto result = std::to_chars(buffer, buffer + sizeof buffer, n);
+    out_.append(buffer, result.ptr);
+    return true;
+  }
+
+  bool real(double d) { return detail::appendJsonDouble(out_, d); }
+
+  bool text(std::string_view s) { return detail::appendQuotedJson(out_, s); }
+
+  void newline(std::size_t depth) {
+    if (indent_ < 0) return;
+    out_ += '\n';
+    out_.append(depth * static_cast<std::size_t>(indent_), ' ');
+  }
+
+  bool list(const JsonList& items, std::size_t depth) {
+    if (depth > kMaxJsonDepth) return false;
+    out_ += '[';
+    bool first = true;
+    for (const auto& item : items) {
+      if (!first) out_ += ',';
+      first = false;
+      newline(depth);
+      if (!write(item, depth)) return false;
+    }
+    if (!items.empty()) newline(depth - 1);
+    out_ += ']';
+    return true;
+  }
+
+  std::string& out_;
+  int indent_;
+};
+
+}  // namespace
+
+namespace detail {
+
+bool appendJsonDouble(std::string& out, double d) {
+  if (!std::isfinite(d)) return false;
+  char buffer[40];
+  auto result = std::to_chars(buffer, buffer + sizeof buffer, d);
+  std::string_view written(buffer, static_cast<std::size_t>(result.ptr - buffer));
+  out += written;
+  // Keep a double a double when the text is read back: "2" would come back as an integer.
+  if (written.find_first_of(".e") == std::string_view::npos) out += ".0";
+  return true;
+}
+
+bool appendQuotedJson(std::string& out, std::string_view s) {
+  if (!simdjson::validate_utf8(s.data(), s.size())) return false;
+  static constexpr char kHex[] = "0123456789abcdef";
+  out.reserve(out.size() + s.size() + 2);
+  out += '"';
+  std::size_t run = 0;
+  for (std::size_t i = 0; i < s.size(); ++i) {
+    const auto c = static_cast<unsigned char>(s[i]);
+    if (c >= 0x20 && c != '"' && c != '\\') continue;
+    out.append(s.data() + run, i - run);
+    run = i + 1;
+    switch (c) {
+      case '"': out += "\\\""; break;
+      case '\\': out += "\\\\"; break;
+      case '\n': out += "\\n"; break;
+      case '\r': out += "\\r"; break;
+      case '\t': out += "\\t"; break;
+      case '\b': out += "\\b"; break;
+      case '\f': out += "\\f"; break;
+      default:
+        out += "\\u00";
+        out += kHex[c >> 4];
+        out += kHex[c & 0xF];
+    }
+  }
+  out.append(s.data() + run, s.size() - run);
+  out += '"';
+  return true;
+}
+
+}  // namespace detail
+
+JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
+  auto& parser = threadParser();
+  if (parser.max_depth() != kMaxJsonDepth || parser.capacity() < bytes.size()) {
+    if (auto error = parser.allocate(std::max<std::size_t>(bytes.size(), 4096), kMaxJsonDepth)) {
+      throw parseFailure(error);
+    }
+  }
+  simdjson::padded_string padded(bytes);
+  simdjson::dom::element root;
+  if (auto error = parser.parse(padded).get(root)) throw parseFailure(error);
+  return convert(root, storage);
+}
+
+JsonMap parseJsonMap(std::string_view bytes, boost::json::storage_ptr storage) {
+  JsonValue value = parseJson(bytes, std::move(storage));
+  if (!value.is_object()) {
+    throw DecodingError(DecodingError::Kind::typeMismatch, {},
+                        std::string("Expected to decode an object but found ") +
+                            std::string(describeKind(value)) + " instead.");
+  }
+  return std::move(value.get_object());
+}
+
+static EncodingError unwritable() {
+  return EncodingError({}, "The value cannot be written as JSON (a non-finite number, invalid UTF-8 or "
+                           "nesting too deep).");
+}
+
+std::string toJson(const JsonValue& value) {
+  std::string out;
+  if (!Writer(out, -1).write(value)) throw unwritable();
+  return out;
+}
+
+std::string toJson(const JsonMap& map) {
+  std::string out;
+  if (!Writer(out, -1).map(map)) throw unwritable();
+  return out;
+}
+
+std::optional<std::string> toPrettyJson(const JsonValue& value) {
+  std::string out;
+  if (!Writer(out, 2).write(value)) return std::nullopt;
+  return out;
+}
+
+std::string_view describeKind(const JsonValue& value) noexcept {
+  switch (value.kind()) {
+    case boost::json::kind::null: return "null";
+    case boost::json::kind::bool_: return "a boolean";
+    case boost::json::kind::int64:
+    case boost::json::kind::uint64: return "an integer";
+    case boost::json::kind::double_: return "a number";
+    case boost::json::kind::string: return "a string";
+    case boost::json::kind::array: return "an array";
+    case boost::json::kind::object: return "an object";
+  }
+  return "a value";
+}
+
+}  // namespace qb

@@ -1,0 +1,7 @@
+#include "frame/QBMessageBase.hpp"
+
+namespace qb {
+
+std::vector<QBMimeBody> QBMessageBase::mimeBodies() const { return {}; }
+
+}  // namespace qb

@@ -1,0 +1,42 @@
+// The base of every Dictionary-face message: what the host messaging layer asks of a message.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "frame/HostTypes.hpp"
+#include "frame/Json.hpp"
+
+namespace qb {
+
+// The host reads these in declaration order: path, parameters, method, flags, multipart bodies; then it
+// sends the call and hands the reply object to parseResponse. Messages are used by one caller at a time;
+// their properties are atomic, so a finished message may be read from several threads.
+class QBMessageBase {
+ public:
+  virtual ~QBMessageBase() = default;
+  QBMessageBase(const QBMessageBase&) = delete;
+  QBMessageBase& operator=(const QBMessageBase&) = delete;
+
+  // The endpoint's relative path, for example "v3/user/get_config".
+  virtual std::string api() const = 0;
+  // A new parameter map built from the properties. Throws ParameterCheckFailException when a required
+  // parameter is absent, EncodingError when a record or list parameter cannot be written as JSON text.
+  virtual JsonMap getParams() const = 0;
+  // A new one-element list, {"get"} or {"post"}.
+  virtual std::vector<std::string> methods() const = 0;
+  virtual bool forceHttps() const = 0;
+  virtual bool binaryResponse() const = 0;
+  virtual bool needAuth() const = 0;
+  virtual bool mustAuth() const = 0;
+  // A new list of multipart bodies; empty for every endpoint but the user update.
+  virtual std::vector<QBMimeBody> mimeBodies() const;
+  // Fills the result properties from the reply object and returns this message. Raises only what the
+  // nested models it builds raise (ParameterCheckFailException, JsonTypeError).
+  virtual QBMessageBase& parseResponse(const JsonMap& reply) = 0;
+
+ protected:
+  QBMessageBase() = default;
+};
+
+}  // namespace qb

@@ -1,0 +1,120 @@
+// The definition of qb::JSONDecoder::decode. Included only by the .cpp files that instantiate it for
+// their record (QB_TYPED_DEFINE), because it brings in the parser's header.
+#pragma once
+
+#include <simdjson.h>
+
+#include "frame/JSONDecoder.hpp"
+#include "frame/JsonValueCodec.hpp"
+
+namespace qb::detail {
+
+// Fast path failure: the slow path will find and report the exact error.
+[[noreturn]] void throwStreamFailure();
+// The thread's document over `json` (copied into a padded buffer the thread reuses).
+simdjson::ondemand::document& openDocument(std::string_view json);
+JsonValue streamToValue(simdjson::ondemand::value value, std::size_t depth);
+
+// Reads a key without unescaping it when it has no escapes (nearly always).
+inline std::string_view fieldKey(simdjson::ondemand::field& field) {
+  const char* start = field.key().raw();
+  const char* end = start;
+  while (*end != '"' && *end != '\\') ++end;
+  if (*end == '"') return {start, static_cast<std::size_t>(end - start)};
+  std::string_view unescaped;
+  if (field.unescaped_key().get(unescaped)) throwStreamFailure();
+  return unescaped;
+}
+
+// A decoder node over the parser's on-demand value: records are read in document order.
+class StreamNode {
+ public:
+  StreamNode(simdjson::ondemand::value value, DateStrategy strategy) : value_(value), strategy_(strategy) {}
+
+  DateStrategy dateStrategy() const noexcept { return strategy_; }
+  bool isNull() {
+    bool null = false;
+    if (value_.is_null().get(null)) throwStreamFailure();
+    return null;
+  }
+  bool readBool() {
+    bool b;
+    if (value_.get_bool().get(b)) throwStreamFailure();
+    return b;
+  }
+  std::int64_t readInt64() {
+    std::int64_t i;
+    if (value_.get_int64().get(i)) throwStreamFailure();
+    return i;
+  }
+  double readDouble() {
+    double d;
+    if (value_.get_double().get(d)) throwStreamFailure();
+    return d;
+  }
+  std::string_view readString() {
+    std::string_view s;
+    if (value_.get_string().get(s)) throwStreamFailure();
+    return s;
+  }
+  JsonValue readAny() { return streamToValue(value_, 0); }
+  template <class F>
+  void forEachField(F&& f) {
+    simdjson::ondemand::object object;
+    if (value_.get_object().get(object)) throwStreamFailure();
+    for (auto result : object) {
+      simdjson::ondemand::field field;
+      if (std::move(result).get(field)) throwStreamFailure();
+      const std::string_view key = fieldKey(field);
+      StreamNode child(field.value(), strategy_);
+      f(key, child);
+    }
+  }
+  template <class F>
+  void forEachElement(F&& f) {
+    simdjson::ondemand::array array;
+    if (value_.get_array().get(array)) throwStreamFailure();
+    for (auto result : array) {
+      simdjson::ondemand::value element;
+      if (std::move(result).get(element)) throwStreamFailure();
+      StreamNode child(element, strategy_);
+      f(child);
+    }
+  }
+
+ private:
+  simdjson::ondemand::value value_;
+  DateStrategy strategy_;
+};
+
+struct StreamFailure {};
+
+}  // namespace qb::detail
+
+namespace qb {
+
+template <class T>
+T JSONDecoder::decode(std::string_view json) const {
+  // Fast path: straight from the parser in document order. Any failure, and any reply with trailing
+  // content, is decoded again from a full parse in declared order, which reports the exact error (or,
+  // for replies with duplicate keys, the same last-wins result).
+  try {
+    simdjson::ondemand::document& document = detail::openDocument(json);
+    simdjson::ondemand::value root;
+    if (!document.get_value().get(root)) {
+      T out{};
+      detail::StreamNode node(root, dateStrategy);
+      detail::decodeValue(node, out);
+      // Only a document consumed to its end is accepted here; trailing content goes the slow way.
+      const char* rest = nullptr;
+      if (document.current_location().get(rest) != simdjson::SUCCESS) return out;
+    }
+  } catch (const DecodingError&) {
+  } catch (const detail::StreamFailure&) {
+  }
+  JsonValueDecoder exact;
+  exact.dateStrategy = dateStrategy;
+  return exact.decode<T>(parseJson(json));
+}
+
+}  // namespace qb
