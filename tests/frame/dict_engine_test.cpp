@@ -1,0 +1,207 @@
+// The Dictionary-face engine, exercised through the configuration records and the get_config message.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+#include "frame/DictModel.hpp"
+#include "user/dict/QBAPIAutoUpdate.hpp"
+#include "user/dict/QBAPIClientConfig.hpp"
+#include "user/dict/QBAPILegalConfig.hpp"
+#include "user/dict/QBUserGetConfigMessage.hpp"
+
+namespace qb {
+namespace {
+
+std::string reasonOf(const std::function<void()>& f) {
+  try {
+    f();
+  } catch (const ParameterCheckFailException& e) {
+    EXPECT_EQ(e.name(), "ParameterCheckFailException");
+    EXPECT_EQ(std::string(e.what()), e.reason());
+    return e.reason();
+  }
+  return "<no exception>";
+}
+
+const char* const kConfig = R"({
+  "auto_update": {"has_update": true, "force_update": false},
+  "expert_default_count": 3, "timestamp": 1700000000,
+  "legal_config": {"agreement_version": 2, "privacy_policy_version": 5, "privacy_policy_url": "https://p"}
+})";
+
+TEST(DictEngine, FirstMissingRequiredFieldInDeclaredOrderNamesTheReason) {
+  struct Case {
+    const char* json;
+    const char* reason;
+  } cases[] = {
+      {R"({})", "hasUpdate is missing in model AutoUpdate"},
+      {R"({"has_update": null, "force_update": true})", "hasUpdate is missing in model AutoUpdate"},
+      {R"({"force_update": true, "has_update": false})", "<no exception>"},
+      {R"({"has_update": false})", "forceUpdate is missing in model AutoUpdate"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(reasonOf([&] { QBAPIAutoUpdate::initWithJsonObject(parseJsonMap(c.json)); }), c.reason) << c.json;
+  }
+  struct ConfigCase {
+    const char* json;
+    const char* reason;
+  } configCases[] = {
+      {R"({"auto_update": null})", "autoUpdate is missing in model ClientConfig"},
+      // The nested record is read before the outer check, so its own reason comes first.
+      {R"({"auto_update": {}})", "hasUpdate is missing in model AutoUpdate"},
+      {R"({"auto_update": {"has_update": 1, "force_update": 0}, "timestamp": 1})",
+       "expertDefaultCount is missing in model ClientConfig"},
+      {R"({"auto_update": {"has_update": 1, "force_update": 0}, "expert_default_count": 1, "timestamp": 1,
+           "legal_config": {"agreement_version": 1}})",
+       "privacyPolicyVersion is missing in model LegalConfig"},
+  };
+  for (const auto& c : configCases) {
+    EXPECT_EQ(reasonOf([&] { QBAPIClientConfig::initWithJsonObject(parseJsonMap(c.json)); }), c.reason) << c.json;
+  }
+}
+
+TEST(DictEngine, ValuesAreKeptExactlyAsTheReplyGaveThem) {
+  // No type checks on plain values: a text where a number is expected stays a text.
+  auto legal = QBAPILegalConfig::initWithJsonObject(
+      parseJsonMap(R"({"privacy_policy_version": "5", "agreement_version": 9007199254740993,
+                       "next_agreement_available_at": 1700000000.123456789})"));
+  EXPECT_EQ(*legal->privacyPolicyVersion(), JsonValue("5"));
+  EXPECT_EQ(legal->agreementVersion()->as_int64(), 9007199254740993);
+  EXPECT_FALSE(legal->agreementUrl());
+  const JsonMap round = parseJsonMap(toJson(legal->toDictionary()));
+  EXPECT_EQ(round.at("agreement_version").as_int64(), 9007199254740993);
+  EXPECT_EQ(round.at("next_agreement_available_at").as_double(), 1700000000.123456789);
+}
+
+TEST(DictEngine, ToDictionaryWritesPresentFieldsAndNestedModelsAsMaps) {
+  const JsonMap source = parseJsonMap(kConfig);
+  auto config = QBAPIClientConfig::initWithJsonObject(source);
+  EXPECT_EQ(config->toDictionary(), source);
+  auto minimal = QBAPIAutoUpdate::initWithJsonObject(parseJsonMap(R"({"has_update": true, "force_update": 1})"));
+  EXPECT_EQ(minimal->toDictionary().size(), 2u);
+  // Setting a property to absent removes its key.
+  config->setShareAppUrl(std::nullopt);
+  config->setExpertDefaultCount(JsonValue(7));
+  EXPECT_FALSE(config->toDictionary().contains("share_app_url"));
+  EXPECT_EQ(config->toDictionary().at("expert_default_count"), JsonValue(7));
+}
+
+TEST(DictEngine, ToJsonStringIsIndentedAndNothingWhenTheWriterFails) {
+  auto update = QBAPIAutoUpdate::initWithJsonObject(parseJsonMap(R"({"has_update": true, "force_update": false})"));
+  EXPECT_EQ(*update->toJsonString(), "{\n  \"has_update\": true,\n  \"force_update\": false\n}");
+  update->setHasUpdate(JsonValue(std::nan("")));
+  EXPECT_FALSE(update->toJsonString());
+  update->setHasUpdate(JsonValue("\xed\xa0\x80"));  // an encoded lone surrogate is not UTF-8
+  EXPECT_FALSE(update->toJsonString());
+}
+
+TEST(DictEngine, ValuesOfTheWrongShapeRaiseJsonTypeError) {
+  for (const char* json : {R"({"auto_update": "yes"})", R"({"auto_update": [1]})"}) {
+    EXPECT_THROW(QBAPIClientConfig::initWithJsonObject(parseJsonMap(json)), JsonTypeError) << json;
+  }
+  EXPECT_THROW(QBAPIAutoUpdate::initWithJsonObject(JsonValue(1)), JsonTypeError);
+}
+
+TEST(DictEngine, IntegerConversion) {
+  struct Case {
+    const char* json;
+    std::int64_t expected;
+  } cases[] = {
+      {"42", 42},
+      {"-7", -7},
+      {"18446744073709551615", INT64_MAX},
+      {"2.9", 2},
+      {"-2.9", -2},
+      {"1e30", INT64_MAX},
+      {"-1e30", INT64_MIN},
+      {"true", 1},
+      {"false", 0},
+      {R"("  -12abc")", -12},
+      {R"("+5")", 5},
+      {R"("abc")", 0},
+      {R"("")", 0},
+      {R"("99999999999999999999")", INT64_MAX},
+      {R"("-99999999999999999999")", INT64_MIN},
+      {R"("-9223372036854775808")", INT64_MIN},
+  };
+  for (const auto& c : cases) EXPECT_EQ(toInteger(parseJson(c.json)), c.expected) << c.json;
+  for (const char* bad : {"null", "[]", "{}"}) EXPECT_THROW(toInteger(parseJson(bad), "k"), JsonTypeError) << bad;
+  EXPECT_EQ(toInteger(JsonValue(std::nan(""))), 0);
+}
+
+TEST(DictEngine, GetConfigMessageDescribesTheCall) {
+  auto message = QBUserGetConfigMessage::initWithData(0, JsonValue("US"));
+  EXPECT_EQ(message->api(), "v3/user/get_config");
+  EXPECT_EQ(message->methods(), std::vector<std::string>{"post"});
+  EXPECT_TRUE(message->forceHttps());
+  EXPECT_FALSE(message->binaryResponse());
+  EXPECT_TRUE(message->needAuth());
+  EXPECT_TRUE(message->mustAuth());
+  EXPECT_TRUE(message->mimeBodies().empty());
+  // The language code is always sent, 0 included; parameters come out equal each time.
+  EXPECT_EQ(toJson(message->getParams()), R"({"language_code":0,"country_code":"US"})");
+  EXPECT_EQ(message->getParams(), message->getParams());
+
+  message->setCountryCode(std::nullopt);
+  EXPECT_EQ(reasonOf([&] { message->getParams(); }), "countryCode is missing in model GetConfig");
+  message->setCountryCode(JsonValue(nullptr));
+  EXPECT_EQ(toJson(message->getParams()), R"({"language_code":0,"country_code":null})")
+      << "a value the app set is sent as it is";
+}
+
+TEST(DictEngine, ParseResponseFillsKeepsAndClearsResults) {
+  auto message = QBUserGetConfigMessage::initWithData(1, JsonValue("DE"));
+  QBMessageBase& same = message->parseResponse(
+      parseJsonMap(std::string(R"({"config": )") + kConfig + R"(, "other_configs": {"a": [1, 18446744073709551615]}})"));
+  EXPECT_EQ(&same, message.get());
+  ASSERT_TRUE(message->config());
+  EXPECT_EQ(message->config()->legalConfig()->privacyPolicyVersion()->as_int64(), 5);
+  EXPECT_EQ(toJson(*message->otherConfigs()), R"({"a":[1,18446744073709551615]})");
+
+  // A second reply without the keys keeps the nested result and clears the plain one.
+  auto config = message->config();
+  message->parseResponse(parseJsonMap(R"({"config": null})"));
+  EXPECT_EQ(message->config(), config);
+  EXPECT_FALSE(message->otherConfigs());
+
+  // Nested failures propagate with the nested model's reason.
+  EXPECT_EQ(reasonOf([&] { message->parseResponse(parseJsonMap(R"({"config": {"auto_update": null}})")); }),
+            "autoUpdate is missing in model ClientConfig");
+  // A reply without "config" leaves a fresh message's config empty.
+  auto fresh = QBUserGetConfigMessage::initWithData(1, JsonValue("DE"));
+  fresh->parseResponse(JsonMap{});
+  EXPECT_FALSE(fresh->config());
+}
+
+TEST(DictEngine, ListLevelOperations) {
+  std::vector<std::shared_ptr<QBAPIAutoUpdate>> list{
+      QBAPIAutoUpdate::initWithJsonObject(parseJsonMap(R"({"has_update": true, "force_update": false})"))};
+  EXPECT_EQ(toJson(JsonValue(toDictionary(list))), R"([{"has_update":true,"force_update":false}])");
+  EXPECT_EQ(*toJsonString(JsonList{1, "a"}), "[\n  1,\n  \"a\"\n]");
+}
+
+TEST(DictEngine, PropertiesAreAtomicUnderConcurrentReadsAndWrites) {
+  auto config = QBAPIClientConfig::initWithJsonObject(parseJsonMap(kConfig));
+  const JsonValue a("a-long-enough-text-to-need-the-heap-aaaaaaaaaaaaaaaaaaaaaaaaaa");
+  const JsonValue b("b-long-enough-text-to-need-the-heap-bbbbbbbbbbbbbbbbbbbbbbbbbb");
+  std::atomic<bool> stop{false};
+  std::atomic<int> torn{0};
+  std::thread writer([&] {
+    for (int i = 0; i < 20000; ++i) config->setShareAppUrl(i % 2 ? a : b);
+    stop = true;
+  });
+  std::thread reader([&] {
+    while (!stop) {
+      auto v = config->shareAppUrl();
+      if (v && *v != a && *v != b) ++torn;
+      (void)config->toJsonString();
+    }
+  });
+  writer.join();
+  reader.join();
+  EXPECT_EQ(torn, 0);
+}
+
+}  // namespace
+}  // namespace qb

@@ -1,0 +1,70 @@
+#include "frame/Json.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+
+#include "frame/Errors.hpp"
+
+namespace qb {
+namespace {
+
+TEST(Json, NumbersKeepTheirKindAndExactValue) {
+  const JsonValue v = parseJson(
+      R"([9007199254740993, -9223372036854775808, 18446744073709551615, 0.1, 85.9379821058858, -0.0, 2.0])");
+  const auto& a = v.as_array();
+  EXPECT_EQ(a[0].as_int64(), 9007199254740993);
+  EXPECT_EQ(a[1].as_int64(), INT64_MIN);
+  EXPECT_EQ(a[2].as_uint64(), UINT64_MAX);
+  EXPECT_EQ(a[3].as_double(), 0.1);
+  EXPECT_EQ(a[4].as_double(), 85.9379821058858);
+  EXPECT_TRUE(std::signbit(a[5].as_double()));
+  EXPECT_TRUE(a[6].is_double());
+  EXPECT_EQ(toJson(v), "[9007199254740993,-9223372036854775808,18446744073709551615,0.1,85.9379821058858,-0.0,2.0]");
+}
+
+TEST(Json, DoublesRoundTripExactly) {
+  std::mt19937_64 random(42);
+  std::uniform_real_distribution<double> spread(-1e6, 1e6);
+  for (int i = 0; i < 2000; ++i) {
+    const double d = spread(random);
+    char text[64];
+    std::snprintf(text, sizeof text, "%.17g", d);
+    const JsonValue parsed = parseJson(text);
+    ASSERT_EQ(parsed.as_double(), std::strtod(text, nullptr)) << text;
+    ASSERT_EQ(parseJson(toJson(parsed)).as_double(), d) << text;
+  }
+}
+
+TEST(Json, BadInputIsDataCorrupted) {
+  const std::string deep(kMaxJsonDepth + 1, '[');
+  for (std::string bad : {std::string("{"), std::string("{} x"), std::string("\"\xff\""), std::string("1e400"),
+                          std::string("18446744073709551616"), std::string("[01]"), deep}) {
+    try {
+      parseJson(bad);
+      ADD_FAILURE() << "accepted " << bad.substr(0, 20);
+    } catch (const DecodingError& error) {
+      EXPECT_EQ(error.kind(), DecodingError::Kind::dataCorrupted) << bad.substr(0, 20);
+    }
+  }
+  EXPECT_THROW(parseJsonMap("[1]"), DecodingError);
+}
+
+TEST(Json, DuplicateKeysKeepTheLastValue) {
+  EXPECT_EQ(parseJsonMap(R"({"a":1,"a":2})").at("a").as_int64(), 2);
+}
+
+TEST(Json, PrettyTextIsIndentedAndRefusesWhatIsNotJson) {
+  const JsonValue v = parseJson(R"({"a":[1,{"b":"x\ny"}],"c":{},"d":[]})");
+  EXPECT_EQ(*toPrettyJson(v), "{\n  \"a\": [\n    1,\n    {\n      \"b\": \"x\\ny\"\n    }\n  ],\n"
+                              "  \"c\": {},\n  \"d\": []\n}");
+  EXPECT_FALSE(toPrettyJson(JsonValue(std::nan(""))));
+  EXPECT_FALSE(toPrettyJson(JsonValue(INFINITY)));
+  EXPECT_FALSE(toPrettyJson(JsonValue("\xc3\x28")));
+  EXPECT_THROW(toJson(JsonMap{{"x", std::nan("")}}), EncodingError);
+  EXPECT_EQ(toJson(JsonValue("\x01\"\\é")), "\"\\u0001\\\"\\\\é\"");
+}
+
+}  // namespace
+}  // namespace qb
