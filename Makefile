@@ -1,0 +1,63 @@
+# Thin wrapper over the CMake presets. `make demo` and `make test` are the two set-up commands.
+SHELL := /bin/bash
+JOBS ?= $(shell nproc)
+# The main job; the command-line tool replaces the example once it exists.
+DEMO_CMD ?= build/default/examples/get_config
+
+DEBIAN_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev ccache pkg-config python3 \
+  libboost-json1.81-dev libsimdjson-dev libgtest-dev libgmock-dev libbenchmark-dev \
+  libcurl4-openssl-dev libcpp-httplib-dev libcli11-dev nlohmann-json3-dev rapidjson-dev
+
+.PHONY: deps build test demo clang asan tsan bench fuzz format clean
+
+# Installs only the Debian packages that are missing; quick and silent when all are there.
+deps:
+	@missing=""; \
+	for p in $(DEBIAN_PACKAGES); do \
+	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q "install ok installed" || missing="$$missing $$p"; \
+	done; \
+	if [ -n "$$missing" ]; then \
+	  echo "Installing:$$missing"; \
+	  sudo=""; [ "$$(id -u)" -ne 0 ] && command -v sudo >/dev/null && sudo=sudo; \
+	  $$sudo env DEBIAN_FRONTEND=noninteractive apt-get update -qq && \
+	  $$sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $$missing; \
+	fi
+
+build: deps
+	cmake --preset default
+	cmake --build --preset default -j $(JOBS)
+
+test: build
+	ctest --preset default
+
+demo: build
+	$(DEMO_CMD)
+
+clang: deps
+	cmake --preset clang
+	cmake --build --preset clang -j $(JOBS)
+	ctest --preset clang
+
+asan: deps
+	cmake --preset asan
+	cmake --build --preset asan -j $(JOBS)
+	ctest --preset asan
+
+tsan: deps
+	cmake --preset tsan
+	cmake --build --preset tsan -j $(JOBS)
+	ctest --preset tsan
+
+bench: deps
+	cmake --preset bench
+	cmake --build --preset bench -j $(JOBS)
+
+fuzz: deps
+	cmake --preset fuzz
+	cmake --build --preset fuzz -j $(JOBS)
+
+format:
+	find Classes host mock cli tests bench fuzz examples -name '*.[ch]pp' 2>/dev/null | xargs -r clang-format -i
+
+clean:
+	rm -rf build
