@@ -31,23 +31,18 @@
 
 namespace qb {
 
-// One coding key: the JSON key and the member it codes.
-template <class Owner, class T>
+// One coding key: the JSON key and the member it codes. A file key marks a request's file member, which
+// is never encoded: the request turns it into a multipart body.
+template <class Owner, class T, bool File = false>
 struct CodingKey {
   using Member = T;
-  static constexpr bool isFile = false;
+  static constexpr bool isFile = File;
   std::string_view name;
   T Owner::*member;
 };
 
-// A file member of a request: never encoded; the request turns it into a multipart body.
 template <class Owner, class T>
-struct FileKey {
-  using Member = T;
-  static constexpr bool isFile = true;
-  std::string_view name;
-  T Owner::*member;
-};
+using FileKey = CodingKey<Owner, T, true>;
 
 template <class Owner, class T>
 constexpr CodingKey<Owner, T> key(std::string_view name, T Owner::*member) {

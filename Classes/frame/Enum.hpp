@@ -92,21 +92,15 @@ constexpr std::string_view unqualified(std::string_view name) noexcept {
 // Declares the traits of an enumeration whose unknown raw values fail decoding.
 // Usage: QB_ENUM(Gender, QB_CASE(Gender, male), QB_CASE(Gender, female))
 #define QB_CASE(Enum, c) QB_ENUM_CASE_(Enum, c)
-#define QB_ENUM(Enum, ...)                                                  \
-  template <>                                                              \
-  struct qb::EnumTraits<Enum> {                                            \
-    static constexpr std::string_view name = ::qb::detail::unqualified(#Enum);                        \
-    static constexpr ::qb::EnumCase<Enum> cases[] = {__VA_ARGS__};         \
-    static constexpr std::optional<Enum> fallback = std::nullopt;          \
-    static constexpr bool hasCaseList = false;                             \
+#define QB_ENUM_TRAITS_(Enum, fallbackValue, withCaseList, ...)                                     \
+  template <>                                                                                      \
+  struct qb::EnumTraits<Enum> {                                                                    \
+    static constexpr std::string_view name = ::qb::detail::unqualified(#Enum);                     \
+    static constexpr ::qb::EnumCase<Enum> cases[] = {__VA_ARGS__};                                 \
+    static constexpr std::optional<Enum> fallback = fallbackValue;                                 \
+    static constexpr bool hasCaseList = withCaseList;                                              \
   }
+#define QB_ENUM(Enum, ...) QB_ENUM_TRAITS_(Enum, std::nullopt, false, __VA_ARGS__)
 
 // Declares the traits of an enumeration with a case list, whose unknown raw values decode as `fallbackCase`.
-#define QB_ENUM_WITH_FALLBACK(Enum, fallbackCase, ...)                     \
-  template <>                                                              \
-  struct qb::EnumTraits<Enum> {                                            \
-    static constexpr std::string_view name = ::qb::detail::unqualified(#Enum);                        \
-    static constexpr ::qb::EnumCase<Enum> cases[] = {__VA_ARGS__};         \
-    static constexpr std::optional<Enum> fallback = Enum::fallbackCase;    \
-    static constexpr bool hasCaseList = true;                              \
-  }
+#define QB_ENUM_WITH_FALLBACK(Enum, fallbackCase, ...) QB_ENUM_TRAITS_(Enum, Enum::fallbackCase, true, __VA_ARGS__)

@@ -35,6 +35,14 @@ std::string_view kindName(DecodingError::Kind kind) noexcept {
 }
 
 namespace {
+CodingPath withFront(CodingPathElement element, const CodingPath& rest) {
+  CodingPath path;
+  path.reserve(rest.size() + 1);
+  path.push_back(std::move(element));
+  path.insert(path.end(), rest.begin(), rest.end());
+  return path;
+}
+
 std::string renderError(std::string_view kind, const CodingPath& path, const std::string& description) {
   std::string text(kind);
   text += " at ";
@@ -52,11 +60,7 @@ DecodingError::DecodingError(Kind kind, CodingPath path, std::string debugDescri
       description_(std::move(debugDescription)) {}
 
 DecodingError DecodingError::prefixed(CodingPathElement element) const {
-  CodingPath path;
-  path.reserve(path_.size() + 1);
-  path.push_back(std::move(element));
-  path.insert(path.end(), path_.begin(), path_.end());
-  return DecodingError(kind_, std::move(path), description_);
+  return DecodingError(kind_, withFront(std::move(element), path_), description_);
 }
 
 EncodingError::EncodingError(CodingPath path, std::string debugDescription)
@@ -65,11 +69,7 @@ EncodingError::EncodingError(CodingPath path, std::string debugDescription)
       description_(std::move(debugDescription)) {}
 
 EncodingError EncodingError::prefixed(CodingPathElement element) const {
-  CodingPath path;
-  path.reserve(path_.size() + 1);
-  path.push_back(std::move(element));
-  path.insert(path.end(), path_.begin(), path_.end());
-  return EncodingError(std::move(path), description_);
+  return EncodingError(withFront(std::move(element), path_), description_);
 }
 
 }  // namespace qb
