@@ -52,9 +52,11 @@ bench: deps
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
 
+FUZZ_SECONDS ?= 20
 fuzz: deps
 	cmake --preset fuzz
 	cmake --build --preset fuzz -j $(JOBS)
+	fuzz/run.sh build/fuzz $(FUZZ_SECONDS)
 
 format:
 	find Classes host mock cli tests bench fuzz examples -name '*.[ch]pp' 2>/dev/null | xargs -r clang-format -i
