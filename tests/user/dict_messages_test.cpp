@@ -46,9 +46,8 @@ const std::vector<MessageRow>& rows() {
   using V = std::optional<JsonValue>;
   static const std::vector<MessageRow> table{
       {[] { return QBUserInitialiseMessage::initWithData(loginInfo(), deviceInfo(), 2, text("US")); },
-       [] { return QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, std::nullopt); },
-       "v3/user/initialise", "post", true, false,
-       R"({"login_info":LOGIN,"device_info":DEVICE,"language_code":2,"country_code":"US"})",
+       [] { return QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, std::nullopt); }, "v3/user/initialise",
+       "post", true, false, R"({"login_info":LOGIN,"device_info":DEVICE,"language_code":2,"country_code":"US"})",
        "countryCode is missing in model Initialise"},
       {[] { return QBUserLoginOrCreateMessage::initWithData(loginInfo(), deviceInfo(), 1); },
        [] { return QBUserLoginOrCreateMessage::initWithData(nullptr, nullptr, 0); }, "v3/user/login_or_create", "post",
@@ -71,10 +70,10 @@ const std::vector<MessageRow>& rows() {
       {[] { return QBUserDeleteAccountMessage::initWithData(); }, nullptr, "v3/user/delete_account", "post", true, true,
        "{}", nullptr},
       {[] { return QBUserGetUserMessage::initWithData(); }, nullptr, "v3/user/get", "get", true, true, "{}", nullptr},
-      {[] { return QBUserUpdateMessage::initWithData(text("Fern"), std::vector<std::byte>{std::byte{1}}, 1); },
-       nullptr, "v3/user/update", "post", true, true, R"({"nickname":"Fern","gender":1})", nullptr},
-      {[] { return QBUserUpdateAdditionalDataMessage::initWithData(JsonValue(true), text("B")); },
-       nullptr, "v3/user/update_additional_data", "post", true, true,
+      {[] { return QBUserUpdateMessage::initWithData(text("Fern"), std::vector<std::byte>{std::byte{1}}, 1); }, nullptr,
+       "v3/user/update", "post", true, true, R"({"nickname":"Fern","gender":1})", nullptr},
+      {[] { return QBUserUpdateAdditionalDataMessage::initWithData(JsonValue(true), text("B")); }, nullptr,
+       "v3/user/update_additional_data", "post", true, true,
        R"({"email_notification_enabled":true,"grows_price_label":"B"})", nullptr},
       {[] { return QBUserUpdateDeviceInfoMessage::initWithData(deviceInfo()); },
        [] { return QBUserUpdateDeviceInfoMessage::initWithData(nullptr); }, "v3/user/update_device_info", "post", true,
@@ -93,13 +92,14 @@ const std::vector<MessageRow>& rows() {
        R"({"is_organic":false,"media_source":"m","campaign":"c","campaign_id":"ci","cost_cents_usd":125,)"
        R"("install_time":1700000000,"channel":"ch","keywords":"k","abset_id":"ab","ad_id":"ad","ad_type":"at"})",
        "isOrganic is missing in model UpdateUserConversion"},
-      {[] { return QBUserUpdateUserDevicePushInfoMessage::initWithData(text("Europe/Berlin"), text("pk"), 6, text("DE")); },
+      {[] {
+         return QBUserUpdateUserDevicePushInfoMessage::initWithData(text("Europe/Berlin"), text("pk"), 6, text("DE"));
+       },
        nullptr, "v3/user/update_user_device_push_info", "post", true, true,
        R"({"time_zone":"Europe/Berlin","push_key":"pk","language_code":6,"country_code":"DE"})", nullptr},
       {[] { return QBUserUpdateUserPropertiesMessage::initWithData(text("k"), text("v")); },
-       [] { return QBUserUpdateUserPropertiesMessage::initWithData(text("k"), V{}); },
-       "v3/user/update_user_properties", "post", true, true, R"({"key":"k","value":"v"})",
-       "value is missing in model UpdateUserProperties"},
+       [] { return QBUserUpdateUserPropertiesMessage::initWithData(text("k"), V{}); }, "v3/user/update_user_properties",
+       "post", true, true, R"({"key":"k","value":"v"})", "value is missing in model UpdateUserProperties"},
       {[] { return QBUserUpdateUserTimeZoneMessage::initWithData(text("UTC")); },
        [] { return QBUserUpdateUserTimeZoneMessage::initWithData(V{}); }, "v3/user/update_user_time_zone", "post", true,
        true, R"({"time_zone":"UTC"})", "timeZone is missing in model UpdateUserTimeZone"},
@@ -143,9 +143,10 @@ TEST(UserDictMessages, OptionalParametersAreLeftOutAndIntegersAlwaysSent) {
   EXPECT_EQ(toJson(QBUserUpdateUserDevicePushInfoMessage::initWithData({}, {}, 0, {})->getParams()),
             R"({"language_code":0})");
   EXPECT_EQ(toJson(QBUserUpdateAdditionalDataMessage::initWithData({}, {})->getParams()), "{}");
-  EXPECT_EQ(toJson(QBUserUpdateUserConversionMessage::initWithData(JsonValue(true), {}, {}, {}, {}, {}, {}, {}, {}, {}, {})
-                       ->getParams()),
-            R"({"is_organic":true})");
+  EXPECT_EQ(
+      toJson(QBUserUpdateUserConversionMessage::initWithData(JsonValue(true), {}, {}, {}, {}, {}, {}, {}, {}, {}, {})
+                 ->getParams()),
+      R"({"is_organic":true})");
 }
 
 TEST(UserDictMessages, UpdateSendsTheAvatarOnlyAsAMultipartBodyAndGenderAlways) {

@@ -26,41 +26,60 @@ std::function<std::shared_ptr<QBAPIModel>(const JsonMap&)> reader() {
 
 const std::vector<ModelRow>& rows() {
   static const std::vector<ModelRow> table{
-      {"User", reader<QBAPIUser>(), kUser,
+      {"User",
+       reader<QBAPIUser>(),
+       kUser,
        {{"user_id", "userId is missing in model User"},
         {"uuid", "uuid is missing in model User"},
         {"created_at", "createdAt is missing in model User"},
         {"guest_user", "guestUser is missing in model User"},
         {"vip", "vip is missing in model User"},
         {"expert_consultation_count", "expertConsultationCount is missing in model User"}}},
-      {"UserAdditionalData", reader<QBAPIUserAdditionalData>(), kUserAdditional,
+      {"UserAdditionalData",
+       reader<QBAPIUserAdditionalData>(),
+       kUserAdditional,
        {{"exist_user", "existUser is missing in model UserAdditionalData"},
         {"today_user", "todayUser is missing in model UserAdditionalData"},
         {"is_vip_in_history", "isVipInHistory is missing in model UserAdditionalData"}}},
       {"LoginInfo", reader<QBAPILoginInfo>(), kLoginInfo, {{"login_key", "loginKey is missing in model LoginInfo"}}},
-      {"LoginMethod", reader<QBAPILoginMethod>(), kLoginMethod,
+      {"LoginMethod",
+       reader<QBAPILoginMethod>(),
+       kLoginMethod,
        {{"login_name", "loginName is missing in model LoginMethod"}}},
       {"ThirdPartyUserInfo", reader<QBAPIThirdPartyUserInfo>(), kThirdParty, {}},
       {"VipInfo", reader<QBAPIVipInfo>(), kVipInfo, {}},
-      {"DeviceInfo", reader<QBAPIDeviceInfo>(), kDevice, {{"device_token", "deviceToken is missing in model DeviceInfo"}}},
-      {"DeviceDetailInfo", reader<QBAPIDeviceDetailInfo>(), kDeviceDetail,
+      {"DeviceInfo",
+       reader<QBAPIDeviceInfo>(),
+       kDevice,
+       {{"device_token", "deviceToken is missing in model DeviceInfo"}}},
+      {"DeviceDetailInfo",
+       reader<QBAPIDeviceDetailInfo>(),
+       kDeviceDetail,
        {{"apps_flyer_id", "appsFlyerId is missing in model DeviceDetailInfo"},
         {"country_code", "countryCode is missing in model DeviceDetailInfo"},
         {"language", "language is missing in model DeviceDetailInfo"},
         {"app_version", "appVersion is missing in model DeviceDetailInfo"}}},
       {"IosDeviceData", reader<QBAPIIosDeviceData>(), kIos, {}},
       {"AndroidDeviceData", reader<QBAPIAndroidDeviceData>(), kAndroid, {}},
-      {"ClientConfig", reader<QBAPIClientConfig>(), kClientConfig,
+      {"ClientConfig",
+       reader<QBAPIClientConfig>(),
+       kClientConfig,
        {{"auto_update", "autoUpdate is missing in model ClientConfig"},
         {"expert_default_count", "expertDefaultCount is missing in model ClientConfig"},
         {"timestamp", "timestamp is missing in model ClientConfig"},
         {"legal_config", "legalConfig is missing in model ClientConfig"}}},
-      {"AutoUpdate", reader<QBAPIAutoUpdate>(), kAutoUpdate,
+      {"AutoUpdate",
+       reader<QBAPIAutoUpdate>(),
+       kAutoUpdate,
        {{"has_update", "hasUpdate is missing in model AutoUpdate"},
         {"force_update", "forceUpdate is missing in model AutoUpdate"}}},
-      {"LegalConfig", reader<QBAPILegalConfig>(), kLegal,
+      {"LegalConfig",
+       reader<QBAPILegalConfig>(),
+       kLegal,
        {{"privacy_policy_version", "privacyPolicyVersion is missing in model LegalConfig"}}},
-      {"Faq", reader<QBAPIFaq>(), kFaq,
+      {"Faq",
+       reader<QBAPIFaq>(),
+       kFaq,
        {{"title", "title is missing in model Faq"},
         {"content", "content is missing in model Faq"},
         {"faq_type", "faqType is missing in model Faq"}}},
@@ -111,8 +130,8 @@ TEST(UserDictModels, OptionalFieldsMayAllBeAbsentAndIntegersReadAsZero) {
     const JsonMap written = row.read(minimal)->toDictionary();
     for (const auto& member : written) {
       if (!minimal.contains(member.key())) {
-        EXPECT_EQ(member.value(), JsonValue(0)) << row.name << ": only integers are written when absent, "
-                                                << member.key() << " was";
+        EXPECT_EQ(member.value(), JsonValue(0))
+            << row.name << ": only integers are written when absent, " << member.key() << " was";
       }
     }
   }
@@ -155,8 +174,7 @@ TEST(UserDictModels, VipInfoKeepsEverythingAndChecksNothing) {
   EXPECT_EQ(toJson(empty->toDictionary()), R"({"vip_level":0})");
   auto vip = QBAPIVipInfo::initWithJsonObject(parseJsonMap(R"({"purchase_subscription_skus": ["a", 1, null]})"));
   EXPECT_EQ(toJson(JsonValue(*vip->purchaseSubscriptionSkus())), R"(["a",1,null])") << "elements kept unchecked";
-  EXPECT_THROW(QBAPIVipInfo::initWithJsonObject(parseJsonMap(R"({"purchase_subscription_skus": "a"})")),
-               JsonTypeError);
+  EXPECT_THROW(QBAPIVipInfo::initWithJsonObject(parseJsonMap(R"({"purchase_subscription_skus": "a"})")), JsonTypeError);
 }
 
 }  // namespace
