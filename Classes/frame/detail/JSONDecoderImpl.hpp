@@ -4,6 +4,8 @@
 
 #include <simdjson.h>
 
+#include <cstring>
+
 #include "frame/JSONDecoder.hpp"
 #include "frame/JsonValueCodec.hpp"
 
@@ -24,6 +26,24 @@ inline std::string_view fieldKey(simdjson::ondemand::field& field) {
   std::string_view unescaped;
   if (field.unescaped_key().get(unescaped)) throwStreamFailure();
   return unescaped;
+}
+
+// Whether the raw key (the reply's bytes after its opening quote) is exactly `name`. Reading
+// name.size() + 1 bytes stays inside the reply and its padding for any name shorter than the padding.
+inline bool rawKeyIs(const char* raw, std::string_view name) noexcept {
+  return name.size() < simdjson::SIMDJSON_PADDING && std::memcmp(raw, name.data(), name.size()) == 0 &&
+         raw[name.size()] == '"';
+}
+
+// The index of the field's key among T's coding keys, or -1. Replies nearly always list a record's
+// keys in declared order, so the key after the previous match (`expected`) is tried first, straight
+// on the raw bytes; anything else goes through the key table.
+template <class T>
+int keyIndex(simdjson::ondemand::field& field, int expected) {
+  if (expected < static_cast<int>(KeyTable<T>::count) && rawKeyIs(field.key().raw(), KeyTable<T>::names[expected])) {
+    return expected;
+  }
+  return KeyTable<T>::find(fieldKey(field));
 }
 
 // A decoder node over the parser's on-demand value: records are read in document order.
@@ -68,6 +88,22 @@ class StreamNode {
       const std::string_view key = fieldKey(field);
       StreamNode child(field.value(), strategy_);
       f(key, child);
+    }
+  }
+  // Calls f(index, child) for each member whose key is one of T's coding keys, in document order.
+  template <class T, class F>
+  void forEachKnownField(F&& f) {
+    simdjson::ondemand::object object;
+    if (value_.get_object().get(object)) throwStreamFailure();
+    int expected = 0;
+    for (auto result : object) {
+      simdjson::ondemand::field field;
+      if (std::move(result).get(field)) throwStreamFailure();
+      const int index = keyIndex<T>(field, expected);
+      if (index < 0) continue;  // the parser skips the value
+      expected = index + 1;
+      StreamNode child(field.value(), strategy_);
+      f(index, child);
     }
   }
   template <class F>

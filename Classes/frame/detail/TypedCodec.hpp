@@ -10,9 +10,11 @@
 // A decoder node N offers:
 //   isNull() readBool() readInt64() readDouble() readString() -> string_view readAny() -> JsonValue
 //   forEachElement(f(N&)) forEachField(f(string_view key, N&)) dateStrategy()
-//   and, optionally, expectObject() with find(string_view key) -> std::optional<N>: with it records are read key by key in
-//   declared order, so the first failing field in declared order is the one reported; without it they
-//   are read in document order (fast, but a different field may be reported when several are wrong).
+//   and either expectObject() with find(string_view key) -> std::optional<N>: records are then read key
+//   by key in declared order, so the first failing field in declared order is the one reported;
+//   or forEachKnownField<T>(f(int keyIndex, N&)), which calls f for each member whose key is one of
+//   T's coding keys (its index in KeyTable<T>), skipping the others: records are then read in document
+//   order (fast, but a different field may be reported when several are wrong).
 // Its read functions throw DecodingError (typeMismatch, empty path) for a value of the wrong kind.
 #pragma once
 
@@ -157,9 +159,7 @@ void decodeRecord(N& node, T& out) {
     }, T::codingKeys);
   } else {
     std::uint64_t seen = 0;
-    node.forEachField([&](std::string_view name, N& child) {
-      const int index = KeyTable<T>::find(name);
-      if (index < 0) return;
+    node.template forEachKnownField<T>([&](int index, N& child) {
       visitKey<T>(index, [&](const auto& key) {
         if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
           try {
