@@ -4,9 +4,11 @@
 #include <benchmark/benchmark.h>
 
 #include <boost/json/monotonic_resource.hpp>
+#include <malloc.h>
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <thread>
@@ -44,6 +46,9 @@ void measure(benchmark::State& state, const Reply& reply, std::string_view varia
       return;
     }
   }
+  // Every benchmark starts from a heap with nothing free, so none inherits the free lists that the one
+  // before it left (they change what the allocator costs).
+  malloc_trim(0);
   for (auto _ : state) {
     auto result = decode(reply.json);
     benchmark::DoNotOptimize(result);
@@ -66,6 +71,17 @@ std::uint64_t referenceChecksum(const Reply& reply) {
   return at->second;
 }
 
+// What --profile=NAME runs: the benchmark's work alone, for perf and callgrind.
+std::map<std::string, std::function<void()>>& profileTargets() {
+  static std::map<std::string, std::function<void()>> targets;
+  return targets;
+}
+
+template <class Decode>
+void addProfileTarget(const std::string& name, const Reply& reply, Decode decode) {
+  profileTargets()[name] = [&reply, decode] { benchmark::DoNotOptimize(decode(reply.json)); };
+}
+
 template <class T, class Decode>
 void registerDecoder(const std::string& group, const std::string& variant, const Reply& reply, Decode decode) {
   auto* b = benchmark::RegisterBenchmark((group + "/" + variant + "/" + reply.name).c_str(),
@@ -76,6 +92,7 @@ void registerDecoder(const std::string& group, const std::string& variant, const
                                                    });
                                          });
   b->Unit(reply.large ? benchmark::kMillisecond : benchmark::kNanosecond);
+  addProfileTarget(group + "/" + variant + "/" + reply.name, reply, decode);
 }
 
 template <class T>
@@ -121,6 +138,9 @@ void registerDictionary(const Reply& reply, std::size_t (*count)(const Message&)
                                                       std::to_string(want);
               });
     })->Unit(unit);
+    addProfileTarget("dict/" + variant + "/" + reply.name, reply, [pooled](std::string_view json) {
+      return decodeDictionary<T, Message>(json, pooled ? monotonic() : boost::json::storage_ptr());
+    });
   }
   auto members = [&reply](std::size_t n) {
     return n == parseJsonMap(reply.json).size() ? std::string() : std::string("wrong member count");
@@ -163,6 +183,8 @@ void registerEncoding(const Reply& reply) {
     measure(state, reply, "encode/qb", in.text.size(), [&](std::string_view) { return JSONEncoder().encode(in.records); },
             roundTrip);
   })->Unit(unit);
+  addProfileTarget("encode/qb/" + reply.name, reply,
+                   [prepared](std::string_view) { return JSONEncoder().encode(prepared().records); });
   benchmark::RegisterBenchmark(("encode/boost/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
     const Inputs& in = prepared();
     measure(state, reply, "encode/boost", in.text.size(), [&](std::string_view) { return in.boost.write(); }, roundTrip);
@@ -288,11 +310,33 @@ bool dumpCorpus(int argc, char** argv) {
   return false;
 }
 
+// --profile=NAME[:TIMES] runs one benchmark's work TIMES times (default 20) without the harness, for
+// `perf record` or `valgrind --tool=callgrind`.
+bool profile(int argc, char** argv) {
+  constexpr std::string_view kFlag = "--profile=";
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view arg = argv[i];
+    if (arg.substr(0, kFlag.size()) != kFlag) continue;
+    std::string name(arg.substr(kFlag.size()));
+    int times = 20;
+    if (const auto colon = name.rfind(':'); colon != std::string::npos) {
+      times = std::stoi(name.substr(colon + 1));
+      name.resize(colon);
+    }
+    registerAll();
+    const auto target = profileTargets().find(name);
+    if (target == profileTargets().end()) throw std::invalid_argument("nothing to profile called " + name);
+    for (int n = 0; n < times; ++n) target->second();
+    return true;
+  }
+  return false;
+}
+
 }  // namespace
 }  // namespace qb::bench
 
 int main(int argc, char** argv) {
-  if (qb::bench::dumpCorpus(argc, argv)) return 0;
+  if (qb::bench::dumpCorpus(argc, argv) || qb::bench::profile(argc, argv)) return 0;
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
   qb::bench::registerAll();
