@@ -49,6 +49,9 @@ int keyIndex(simdjson::ondemand::field& field, int expected) {
 // A decoder node over the parser's on-demand value: records are read in document order.
 class StreamNode {
  public:
+  // JSONDecoder::decode reports a failure by decoding the reply again in declared order.
+  static constexpr bool kFailuresAreRetried = true;
+
   StreamNode(simdjson::ondemand::value value, DateStrategy strategy) : value_(value), strategy_(strategy) {}
 
   DateStrategy dateStrategy() const noexcept { return strategy_; }

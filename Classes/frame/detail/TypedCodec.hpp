@@ -58,6 +58,27 @@ void decodeValue(N& node, T& out);
 template <class N, class T>
 void decodeRecord(N& node, T& out);
 
+// A node whose failures need no detail: its decoder decodes the reply once more through a node that
+// reports errors, which meets the same failure. It declares `static constexpr bool kFailuresAreRetried
+// = true` and is spared the coding paths and the null checks of required members (a null fails the
+// member's read anyway).
+template <class N>
+concept RetryingNode = requires { requires N::kFailuresAreRetried; };
+
+// Runs decode(); a DecodingError leaves it with element() in front of its coding path.
+template <class N, class Decode, class Element>
+void withinPath(Decode&& decode, Element&& element) {
+  if constexpr (RetryingNode<N>) {
+    decode();
+  } else {
+    try {
+      decode();
+    } catch (const DecodingError& error) {
+      throw error.prefixed(element());
+    }
+  }
+}
+
 // The required form: null is valueNotFound; the if-present form: null leaves the member absent.
 template <class N, class M>
 void decodeMember(N& node, M& member) {
@@ -71,7 +92,9 @@ void decodeMember(N& node, M& member) {
       decodeValue(node, member.emplace());
     }
   } else {
-    if (node.isNull()) throwValueNotFound(typeName<M>());
+    if constexpr (!RetryingNode<N>) {
+      if (node.isNull()) throwValueNotFound(typeName<M>());
+    }
     decodeValue(node, member);
   }
 }
@@ -105,20 +128,13 @@ void decodeValue(N& node, T& out) {
     out.clear();
     node.forEachElement([&](N& child) {
       const std::size_t index = out.size();
-      try {
-        decodeMember(child, out.emplace_back());
-      } catch (const DecodingError& error) {
-        throw error.prefixed(index);
-      }
+      withinPath<N>([&] { decodeMember(child, out.emplace_back()); }, [&] { return CodingPathElement(index); });
     });
   } else if constexpr (IsStringMap<T>::value) {
     out.clear();
     node.forEachField([&](std::string_view key, N& child) {
-      try {
-        decodeMember(child, out[std::string(key)]);
-      } catch (const DecodingError& error) {
-        throw error.prefixed(std::string(key));
-      }
+      withinPath<N>([&] { decodeMember(child, out[std::string(key)]); },
+                    [&] { return CodingPathElement(std::string(key)); });
     });
   } else {
     static_assert(Codable<T>, "no decoding is declared for this type");
@@ -141,18 +157,18 @@ void decodeRecord(N& node, T& out) {
         using M = typename std::remove_cvref_t<decltype(key)>::Member;
         if constexpr (std::remove_cvref_t<decltype(key)>::isFile) return;
         else {
-          try {
-            std::optional<N> child = node.find(key.name);
-            if (child) {
-              decodeMember(*child, out.*key.member);
-            } else if constexpr (IsOptional<M>::value) {
-              (out.*key.member).reset();
-            } else {
-              throwKeyNotFound(key.name);
-            }
-          } catch (const DecodingError& error) {
-            throw error.prefixed(std::string(key.name));
-          }
+          withinPath<N>(
+              [&] {
+                std::optional<N> child = node.find(key.name);
+                if (child) {
+                  decodeMember(*child, out.*key.member);
+                } else if constexpr (IsOptional<M>::value) {
+                  (out.*key.member).reset();
+                } else {
+                  throwKeyNotFound(key.name);
+                }
+              },
+              [&] { return CodingPathElement(std::string(key.name)); });
         }
       };
       (one(k), ...);
@@ -162,11 +178,8 @@ void decodeRecord(N& node, T& out) {
     node.template forEachKnownField<T>([&](int index, N& child) {
       visitKey<T>(index, [&](const auto& key) {
         if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
-          try {
-            decodeMember(child, out.*key.member);
-          } catch (const DecodingError& error) {
-            throw error.prefixed(std::string(key.name));
-          }
+          withinPath<N>([&] { decodeMember(child, out.*key.member); },
+                        [&] { return CodingPathElement(std::string(key.name)); });
         }
       });
       seen |= std::uint64_t{1} << index;
