@@ -28,22 +28,17 @@ inline std::string_view fieldKey(simdjson::ondemand::field& field) {
   return unescaped;
 }
 
-// Whether the raw key (the reply's bytes after its opening quote) is exactly `name`. Reading
-// name.size() + 1 bytes stays inside the reply and its padding for any name shorter than the padding.
-inline bool rawKeyIs(const char* raw, std::string_view name) noexcept {
-  return name.size() < simdjson::SIMDJSON_PADDING && std::memcmp(raw, name.data(), name.size()) == 0 &&
-         raw[name.size()] == '"';
-}
-
-// The index of the field's key among T's coding keys, or -1. Replies nearly always list a record's
-// keys in declared order, so the key after the previous match (`expected`) is tried first, straight
-// on the raw bytes; anything else goes through the key table.
-template <class T>
-int keyIndex(simdjson::ondemand::field& field, int expected) {
-  if (expected < static_cast<int>(KeyTable<T>::count) && rawKeyIs(field.key().raw(), KeyTable<T>::names[expected])) {
-    return expected;
+// Whether the raw key (the reply's bytes after its opening quote) is exactly the I-th key of T. The
+// name's length is a constant, so this is a few word compares; reading name.size() + 1 bytes stays
+// inside the reply and its padding, which is longer than the names compared here.
+template <class T, std::size_t I>
+bool rawKeyIs(const char* raw) noexcept {
+  constexpr std::string_view name = KeyTable<T>::names[I];
+  if constexpr (name.size() >= simdjson::SIMDJSON_PADDING) {
+    return false;  // left to the key table
+  } else {
+    return std::memcmp(raw, name.data(), name.size()) == 0 && raw[name.size()] == '"';
   }
-  return KeyTable<T>::find(fieldKey(field));
 }
 
 // A decoder node over the parser's on-demand value: records are read in document order.
@@ -93,7 +88,10 @@ class StreamNode {
       f(key, child);
     }
   }
-  // Calls f(index, child) for each member whose key is one of T's coding keys, in document order.
+  // Calls f(index, key, child) for each member whose key is one of T's coding keys, in document order.
+  // Replies nearly always list a record's keys in declared order, so the key after the previous match
+  // is tried first, on the raw bytes with its length known at compile time; any other key goes
+  // through the key table.
   template <class T, class F>
   void forEachKnownField(F&& f) {
     simdjson::ondemand::object object;
@@ -102,11 +100,23 @@ class StreamNode {
     for (auto result : object) {
       simdjson::ondemand::field field;
       if (std::move(result).get(field)) throwStreamFailure();
-      const int index = keyIndex<T>(field, expected);
+      const char* raw = field.key().raw();
+      StreamNode child(field.value(), strategy_);
+      bool matched = false;
+      visitKeyIndex<T>(expected, [&](auto i) {
+        if (rawKeyIs<T, decltype(i)::value>(raw)) {
+          matched = true;
+          f(expected, std::get<decltype(i)::value>(T::codingKeys), child);
+        }
+      });
+      if (matched) {
+        ++expected;
+        continue;
+      }
+      const int index = KeyTable<T>::find(fieldKey(field));
       if (index < 0) continue;  // the parser skips the value
       expected = index + 1;
-      StreamNode child(field.value(), strategy_);
-      f(index, child);
+      visitKey<T>(index, [&](const auto& key) { f(index, key, child); });
     }
   }
   template <class F>

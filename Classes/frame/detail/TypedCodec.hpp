@@ -12,9 +12,9 @@
 //   forEachElement(f(N&)) forEachField(f(string_view key, N&)) dateStrategy()
 //   and either expectObject() with find(string_view key) -> std::optional<N>: records are then read key
 //   by key in declared order, so the first failing field in declared order is the one reported;
-//   or forEachKnownField<T>(f(int keyIndex, N&)), which calls f for each member whose key is one of
-//   T's coding keys (its index in KeyTable<T>), skipping the others: records are then read in document
-//   order (fast, but a different field may be reported when several are wrong).
+//   or forEachKnownField<T>(f(int keyIndex, const Key& key, N&)), which calls f for each member whose
+//   key is one of T's coding keys (`key`, its index in KeyTable<T>), skipping the others: records are
+//   then read in document order (fast, but a different field may be reported when several are wrong).
 // Its read functions throw DecodingError (typeMismatch, empty path) for a value of the wrong kind.
 #pragma once
 
@@ -175,13 +175,11 @@ void decodeRecord(N& node, T& out) {
     }, T::codingKeys);
   } else {
     std::uint64_t seen = 0;
-    node.template forEachKnownField<T>([&](int index, N& child) {
-      visitKey<T>(index, [&](const auto& key) {
-        if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
-          withinPath<N>([&] { decodeMember(child, out.*key.member); },
-                        [&] { return CodingPathElement(std::string(key.name)); });
-        }
-      });
+    node.template forEachKnownField<T>([&](int index, const auto& key, N& child) {
+      if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
+        withinPath<N>([&] { decodeMember(child, out.*key.member); },
+                      [&] { return CodingPathElement(std::string(key.name)); });
+      }
       seen |= std::uint64_t{1} << index;
     });
     std::size_t index = 0;
