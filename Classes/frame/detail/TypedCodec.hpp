@@ -108,7 +108,9 @@ void decodeValue(N& node, T& out) {
   } else if constexpr (std::is_same_v<T, double>) {
     out = node.readDouble();
   } else if constexpr (std::is_same_v<T, std::string>) {
-    out = node.readString();
+    // A new string of exactly the text's size, moved in: cheaper than assign(), whose general path
+    // handles overlap and rounds the capacity up for growth.
+    out = std::string(node.readString());
   } else if constexpr (APIEnumrable<T>) {
     out = enumFromDecoded<T>(node.readInt64());
   } else if constexpr (std::is_same_v<T, Date>) {
