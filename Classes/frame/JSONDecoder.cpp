@@ -8,9 +8,12 @@ simdjson::ondemand::document& openDocument(std::string_view json) {
   thread_local simdjson::ondemand::parser parser;
   thread_local std::string buffer;
   thread_local simdjson::ondemand::document document;
-  // Large buffers are not kept past the next reply.
-  if (buffer.capacity() > (std::size_t{8} << 20) && json.size() < (std::size_t{1} << 20)) {
-    std::string().swap(buffer);
+  // Large buffers, the copy's and the parser's (about seven times a reply's size, mostly untouched),
+  // are not kept past the next small reply.
+  constexpr std::size_t kLarge = std::size_t{8} << 20;
+  if (json.size() < (std::size_t{1} << 20)) {
+    if (buffer.capacity() > kLarge) std::string().swap(buffer);
+    if (parser.capacity() > kLarge) parser = simdjson::ondemand::parser();
   }
   buffer.assign(json);
   buffer.append(simdjson::SIMDJSON_PADDING, '\0');

@@ -224,6 +224,11 @@ bool appendQuotedJson(std::string& out, std::string_view s) {
 
 JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
   auto& parser = threadParser();
+  // The parser's buffers take about fourteen times the largest reply seen; after a large reply they
+  // are given back at the next small one.
+  if (parser.capacity() > (std::size_t{8} << 20) && bytes.size() < (std::size_t{1} << 20)) {
+    parser = simdjson::dom::parser();
+  }
   if (parser.max_depth() != kMaxJsonDepth || parser.capacity() < bytes.size()) {
     if (auto error = parser.allocate(std::max<std::size_t>(bytes.size(), 4096), kMaxJsonDepth)) {
       throw parseFailure(error);
