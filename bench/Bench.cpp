@@ -198,13 +198,13 @@ void registerEncoding(const Reply& reply) {
 
 // Peak memory: one decode on a fresh thread (so per-thread parser buffers start empty), counted by
 // operator new and by the process's resident set. Reported relative to the reply's size: the peak while
-// decoding, what the result holds, and what the decoder keeps for the thread's next reply once the
-// result is gone. Allocated bytes overstate what a parser's large, mostly untouched buffers cost; the
+// decoding, what the result holds, and what the decoder still keeps for the thread once the result is
+// gone and the thread has decoded a small reply. Allocated bytes overstate what a parser's large, mostly untouched buffers cost; the
 // resident peak shows what the machine gave.
 template <class Decode>
-void registerMemory(const std::string& variant, const Reply& reply, Decode decode) {
-  benchmark::RegisterBenchmark(("memory/" + variant + "/" + reply.name).c_str(), [&reply, decode](benchmark::State& state) {
-    memory::Usage during, after;
+void registerMemory(const std::string& variant, const Reply& reply, const Reply& small, Decode decode) {
+  benchmark::RegisterBenchmark(("memory/" + variant + "/" + reply.name).c_str(), [&reply, &small, decode](benchmark::State& state) {
+    memory::Usage during, atRest, after;
     std::int64_t residentBefore = 0, residentPeak = 0;
     for (auto _ : state) {
       std::thread([&] {
@@ -216,13 +216,16 @@ void registerMemory(const std::string& variant, const Reply& reply, Decode decod
           during = memory::usage();
           residentPeak = memory::residentPeak();
         }
+        atRest = memory::usage();
+        // What stays allocated once the thread has decoded a small reply after the large one.
+        benchmark::DoNotOptimize(decode(small.json));
         after = memory::usage();
         memory::stop();
       }).join();
     }
     const auto size = static_cast<double>(reply.json.size());
     state.counters["peak_x"] = static_cast<double>(during.peak) / size;
-    state.counters["result_x"] = static_cast<double>(during.now - after.now) / size;
+    state.counters["result_x"] = static_cast<double>(during.now - atRest.now) / size;
     state.counters["kept_x"] = static_cast<double>(after.now) / size;
     state.counters["resident_peak_x"] = static_cast<double>(residentPeak - residentBefore) / size;
     state.counters["bytes"] = size;
@@ -230,30 +233,31 @@ void registerMemory(const std::string& variant, const Reply& reply, Decode decod
 }
 
 template <class T, class Message>
-void registerMemoryAll(const Reply& reply) {
-  registerMemory("qb", reply, [](std::string_view json) { return JSONDecoder().decode<T>(json); });
-  registerMemory("handwritten", reply, peers::decodeHandWritten<T>);
-  registerMemory("boost", reply, peers::decodeBoost<T>);
-  registerMemory("nlohmann", reply, peers::decodeNlohmann<T>);
-  registerMemory("rapidjson", reply, peers::decodeRapidjson<T>);
-  registerMemory("dict_qb", reply, [](std::string_view json) { return decodeDictionary<T, Message>(json, {}); });
-  registerMemory("dict_qb_monotonic", reply,
+void registerMemoryAll(const Reply& reply, const Reply& small) {
+  registerMemory("qb", reply, small, [](std::string_view json) { return JSONDecoder().decode<T>(json); });
+  registerMemory("handwritten", reply, small, peers::decodeHandWritten<T>);
+  registerMemory("boost", reply, small, peers::decodeBoost<T>);
+  registerMemory("nlohmann", reply, small, peers::decodeNlohmann<T>);
+  registerMemory("rapidjson", reply, small, peers::decodeRapidjson<T>);
+  registerMemory("dict_qb", reply, small, [](std::string_view json) { return decodeDictionary<T, Message>(json, {}); });
+  registerMemory("dict_qb_monotonic", reply, small,
                  [](std::string_view json) { return decodeDictionary<T, Message>(json, monotonic()); });
 }
 
 // What the benchmarks do with each shape of reply: a domain adds its shapes here.
 struct Shape {
   std::string_view name;
-  void (*registerAll)(const Reply& reply, bool largest);
+  // `smallest` is the smallest reply of the same shape when `reply` is the corpus's largest, else null.
+  void (*registerAll)(const Reply& reply, const Reply* smallest);
 };
 
 template <class T, class Message, auto count, auto expected>
 Shape shape(std::string_view name) {
-  return {name, [](const Reply& reply, bool largest) {
+  return {name, [](const Reply& reply, const Reply* smallest) {
             registerTyped<T>(reply);
             registerDictionary<T, Message>(reply, count, expected);
             if (reply.large) registerEncoding<T>(reply);
-            if (largest) registerMemoryAll<T, Message>(reply);
+            if (smallest) registerMemoryAll<T, Message>(reply, *smallest);
           }};
 }
 
@@ -280,11 +284,15 @@ void registerAll() {
   for (const Reply& reply : corpus()) {
     if (!largest || reply.json.size() > largest->json.size()) largest = &reply;
   }
+  const Reply* smallest = largest;
+  for (const Reply& reply : corpus()) {
+    if (reply.shape == largest->shape && reply.json.size() < smallest->json.size()) smallest = &reply;
+  }
   for (const Reply& reply : corpus()) {
     bool known = false;
     for (const Shape& shape : kShapes) {
       if (shape.name != reply.shape) continue;
-      shape.registerAll(reply, &reply == largest);
+      shape.registerAll(reply, &reply == largest ? smallest : nullptr);
       known = true;
     }
     if (!known) throw std::logic_error("no benchmarks for replies of shape " + reply.shape);

@@ -122,7 +122,7 @@ def main():
                          fmt(b.get("resident_peak_x")), fmt(b.get("result_x")), fmt(b.get("kept_x"))])
     rows.sort(key=lambda r: MEMORY.index(r[0].split(" ")[0]) if r[0].split(" ")[0] in MEMORY else 99)
     out.append(table("Memory of one decode of the largest reply, in multiples of its size: allocated (operator new) "
-                     "and resident peak while decoding, held by the result, still allocated for the thread afterwards",
+                     "and resident peak while decoding, held by the result, still allocated for the thread after its next (small) reply",
                      ["variant", "allocated peak", "resident peak", "result", "kept by the thread"], rows))
 
     def headline(group, ours, theirs):
