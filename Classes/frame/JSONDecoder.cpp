@@ -34,9 +34,9 @@ JsonValue streamToValue(simdjson::ondemand::value value, std::size_t depth) {
       for (auto result : object) {
         simdjson::ondemand::field field;
         if (std::move(result).get(field)) throwStreamFailure();
-        const std::string_view key = fieldKey(field);
-        std::string owned(key);
-        map.insert_or_assign(owned, streamToValue(field.value(), depth + 1));
+        // The key stays valid while the document is read: it points into the reply or the parser's
+        // text buffer.
+        map.insert_or_assign(fieldKey(field), streamToValue(field.value(), depth + 1));
       }
       return map;
     }
