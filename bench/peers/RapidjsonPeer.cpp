@@ -17,7 +17,7 @@ namespace {
 // RapidJSON's pools take their blocks from operator new like every other variant, so the memory
 // benchmark sees them.
 struct NewAllocator {
-  static const bool kNeedFree = true;
+  [[maybe_unused]] static const bool kNeedFree = true;
   void* Malloc(std::size_t size) { return size ? ::operator new(size) : nullptr; }
   void* Realloc(void* old, std::size_t oldSize, std::size_t newSize) {
     if (newSize == 0) {
