@@ -60,9 +60,11 @@ bench: deps
 	  --benchmark_out=build/bench/results.json --benchmark_out_format=json
 	python3 bench/report.py build/bench/results.json
 
+FUZZ_SECONDS ?= 20
 fuzz: deps
 	cmake --preset fuzz
 	cmake --build --preset fuzz -j $(JOBS)
+	fuzz/run.sh build/fuzz $(FUZZ_SECONDS)
 
 format:
 	find Classes host mock cli tests bench fuzz examples -name '*.[ch]pp' 2>/dev/null | xargs -r clang-format -i

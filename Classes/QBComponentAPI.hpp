@@ -14,3 +14,8 @@
 #include "frame/JsonValueCodec.hpp"
 #include "frame/Protocols.hpp"
 #include "frame/QBMessageBase.hpp"
+
+#include "user/UserEndpoints.hpp"
+#include "user/dict/UserDict.hpp"
+#include "user/enums/UserEnums.hpp"
+#include "user/typed/UserTyped.hpp"

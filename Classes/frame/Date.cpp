@@ -6,7 +6,9 @@
 namespace qb {
 namespace {
 
-constexpr double kLimitSeconds = 1e14;
+// Far enough for any real date (the year 5138), near enough that seconds, milliseconds and the double
+// between them convert back and forth exactly.
+constexpr double kLimitSeconds = 1e11;
 
 bool digits(std::string_view text, std::size_t at, std::size_t count, int& out) noexcept {
   if (at + count > text.size()) return false;

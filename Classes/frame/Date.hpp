@@ -18,7 +18,7 @@ enum class DateStrategy {
 };
 
 // The Date `amount` seconds (or milliseconds) after 1970, rounded to the millisecond; std::nullopt when the
-// number is not finite or lies beyond ±10^14 seconds.
+// number is not finite or lies beyond ±10^11 seconds (the years -1200 to 5138).
 std::optional<Date> dateFromNumber(double amount, DateStrategy strategy) noexcept;
 // The number a Date is written as under a numeric strategy.
 double dateToNumber(Date date, DateStrategy strategy) noexcept;

@@ -148,7 +148,10 @@ namespace detail {
 bool appendJsonDouble(std::string& out, double d) {
   if (!std::isfinite(d)) return false;
   char buffer[40];
-  auto result = std::to_chars(buffer, buffer + sizeof buffer, d);
+  // Whole numbers such as timestamps read better as 1700000000.0 than as 1.7e+09; both are exact.
+  auto result = std::trunc(d) == d && std::fabs(d) < 1e15
+                    ? std::to_chars(buffer, buffer + sizeof buffer, d, std::chars_format::fixed)
+                    : std::to_chars(buffer, buffer + sizeof buffer, d);
   std::string_view written(buffer, static_cast<std::size_t>(result.ptr - buffer));
   out += written;
   // Keep a double a double when the text is read back: "2" would come back as an integer.

@@ -57,7 +57,7 @@ template <Codable T>
 std::vector<APIMimeBody> mimeBodiesOf(const T& request) {
   std::vector<APIMimeBody> bodies;
   std::apply([&](const auto&... k) {
-    auto one = [&](const auto& key) {
+    [[maybe_unused]] auto one = [&](const auto& key) {
       if constexpr (std::remove_cvref_t<decltype(key)>::isFile) {
         if (const auto& file = request.*key.member) {
           bodies.push_back(APIMimeBody{std::string(key.name), *file, "file", "application/octet-stream"});

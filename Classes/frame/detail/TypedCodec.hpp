@@ -155,7 +155,7 @@ void decodeRecord(N& node, T& out) {
   if constexpr (OrderedNode<N>) {
     node.expectObject();
     std::apply([&](const auto&... k) {
-      auto one = [&](const auto& key) {
+      [[maybe_unused]] auto one = [&](const auto& key) {
         using M = typename std::remove_cvref_t<decltype(key)>::Member;
         if constexpr (std::remove_cvref_t<decltype(key)>::isFile) return;
         else {
@@ -186,7 +186,7 @@ void decodeRecord(N& node, T& out) {
     });
     std::size_t index = 0;
     std::apply([&](const auto&... k) {
-      auto one = [&](const auto& key) {
+      [[maybe_unused]] auto one = [&](const auto& key) {
         using M = typename std::remove_cvref_t<decltype(key)>::Member;
         if (!(seen & (std::uint64_t{1} << index))) {
           if constexpr (IsOptional<M>::value) {
@@ -212,7 +212,7 @@ template <class S, class T>
 void encodeRecord(S& sink, const T& record) {
   sink.beginObject();
   std::apply([&](const auto&... k) {
-    auto one = [&](const auto& key) {
+    [[maybe_unused]] auto one = [&](const auto& key) {
       using M = typename std::remove_cvref_t<decltype(key)>::Member;
       if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
         const M& member = record.*key.member;

@@ -15,10 +15,8 @@ class QBAPIClientConfig final : public QBAPIModel {
   QB_VALUE(shareAppUrl, ShareAppUrl)
   QB_VALUE(timestamp, Timestamp)
   QB_MODEL(QBAPILegalConfig, legalConfig, LegalConfig)
-  QB_FIELDS(QB_REQUIRED(autoUpdate, "auto_update"),
-            QB_REQUIRED(expertDefaultCount, "expert_default_count"),
-            QB_OPTIONAL(shareAppUrl, "share_app_url"),
-            QB_REQUIRED(timestamp, "timestamp"),
+  QB_FIELDS(QB_REQUIRED(autoUpdate, "auto_update"), QB_REQUIRED(expertDefaultCount, "expert_default_count"),
+            QB_OPTIONAL(shareAppUrl, "share_app_url"), QB_REQUIRED(timestamp, "timestamp"),
             QB_REQUIRED(legalConfig, "legal_config"))
 };
 

@@ -18,14 +18,12 @@ class QBUserGetConfigMessage final : public DictMessage<QBUserGetConfigMessage> 
 
   QB_INTEGER(languageCode, LanguageCode)
   QB_VALUE(countryCode, CountryCode)
-  QB_PARAMS(QB_OPTIONAL(languageCode, "language_code"),
-            QB_REQUIRED(countryCode, "country_code"))
+  QB_PARAMS(QB_OPTIONAL(languageCode, "language_code"), QB_REQUIRED(countryCode, "country_code"))
 
   QB_MODEL(QBAPIClientConfig, config, Config)
   // Free-form configuration values, kept exactly as the reply gave them.
   QB_VALUE(otherConfigs, OtherConfigs)
-  QB_RESULTS(QB_OPTIONAL(config, "config"),
-             QB_OPTIONAL(otherConfigs, "other_configs"))
+  QB_RESULTS(QB_OPTIONAL(config, "config"), QB_OPTIONAL(otherConfigs, "other_configs"))
 };
 
 }  // namespace qb

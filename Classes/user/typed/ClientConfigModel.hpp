@@ -17,8 +17,7 @@ struct ClientConfigModel {
   static constexpr auto codingKeys = qb::codingKeys(
       qb::key("auto_update", &ClientConfigModel::autoUpdate),
       qb::key("expert_default_count", &ClientConfigModel::expertDefaultCount),
-      qb::key("share_app_url", &ClientConfigModel::shareAppUrl),
-      qb::key("timestamp", &ClientConfigModel::timestamp),
+      qb::key("share_app_url", &ClientConfigModel::shareAppUrl), qb::key("timestamp", &ClientConfigModel::timestamp),
       qb::key("legal_config", &ClientConfigModel::legalConfig));
   bool operator==(const ClientConfigModel&) const = default;
 };

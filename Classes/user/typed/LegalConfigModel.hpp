@@ -16,16 +16,16 @@ struct LegalConfigModel {
   std::optional<std::string> dataManagementUrl = std::nullopt;
   std::int64_t privacyPolicyVersion;
 
-  static constexpr auto codingKeys = qb::codingKeys(
-      qb::key("agreement_url", &LegalConfigModel::agreementUrl),
-      qb::key("agreement_version", &LegalConfigModel::agreementVersion),
-      qb::key("next_agreement_url", &LegalConfigModel::nextAgreementUrl),
-      qb::key("next_agreement_version", &LegalConfigModel::nextAgreementVersion),
-      qb::key("next_agreement_available_at", &LegalConfigModel::nextAgreementAvailableAt),
-      qb::key("third_party_notices_url", &LegalConfigModel::thirdPartyNoticesUrl),
-      qb::key("privacy_policy_url", &LegalConfigModel::privacyPolicyUrl),
-      qb::key("data_management_url", &LegalConfigModel::dataManagementUrl),
-      qb::key("privacy_policy_version", &LegalConfigModel::privacyPolicyVersion));
+  static constexpr auto codingKeys =
+      qb::codingKeys(qb::key("agreement_url", &LegalConfigModel::agreementUrl),
+                     qb::key("agreement_version", &LegalConfigModel::agreementVersion),
+                     qb::key("next_agreement_url", &LegalConfigModel::nextAgreementUrl),
+                     qb::key("next_agreement_version", &LegalConfigModel::nextAgreementVersion),
+                     qb::key("next_agreement_available_at", &LegalConfigModel::nextAgreementAvailableAt),
+                     qb::key("third_party_notices_url", &LegalConfigModel::thirdPartyNoticesUrl),
+                     qb::key("privacy_policy_url", &LegalConfigModel::privacyPolicyUrl),
+                     qb::key("data_management_url", &LegalConfigModel::dataManagementUrl),
+                     qb::key("privacy_policy_version", &LegalConfigModel::privacyPolicyVersion));
   bool operator==(const LegalConfigModel&) const = default;
 };
 static_assert(APIModel<LegalConfigModel>);

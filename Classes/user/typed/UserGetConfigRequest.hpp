@@ -11,9 +11,8 @@ struct UserGetConfigRequest {
   LanguageCode languageCode;
   std::string countryCode;
 
-  static constexpr auto codingKeys =
-      qb::codingKeys(qb::key("language_code", &UserGetConfigRequest::languageCode),
-                     qb::key("country_code", &UserGetConfigRequest::countryCode));
+  static constexpr auto codingKeys = qb::codingKeys(qb::key("language_code", &UserGetConfigRequest::languageCode),
+                                                    qb::key("country_code", &UserGetConfigRequest::countryCode));
   QB_TYPED_REQUEST(user::kGetConfig, UserGetConfigResponse)
   bool operator==(const UserGetConfigRequest&) const = default;
 };

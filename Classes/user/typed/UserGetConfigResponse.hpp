@@ -11,9 +11,8 @@ struct UserGetConfigResponse {
   ClientConfigModel config;
   std::map<std::string, AnyCodable> otherConfigs;
 
-  static constexpr auto codingKeys =
-      qb::codingKeys(qb::key("config", &UserGetConfigResponse::config),
-                     qb::key("other_configs", &UserGetConfigResponse::otherConfigs));
+  static constexpr auto codingKeys = qb::codingKeys(qb::key("config", &UserGetConfigResponse::config),
+                                                    qb::key("other_configs", &UserGetConfigResponse::otherConfigs));
   QB_TYPED_RESPONSE(UserGetConfigResponse)
   bool operator==(const UserGetConfigResponse&) const = default;
 };

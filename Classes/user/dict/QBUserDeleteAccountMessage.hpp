@@ -1,0 +1,17 @@
+#pragma once
+
+#include "frame/DictModel.hpp"
+#include "user/UserEndpoints.hpp"
+
+namespace qb {
+
+// delete_account: deletes the logged-in account.
+class QBUserDeleteAccountMessage final : public DictMessage<QBUserDeleteAccountMessage> {
+  QB_DICT_MESSAGE(QBUserDeleteAccountMessage, "DeleteAccount", user::kDeleteAccount)
+  static std::shared_ptr<QBUserDeleteAccountMessage> initWithData() { return make<>(); }
+
+  QB_PARAMS()
+  QB_RESULTS()
+};
+
+}  // namespace qb

@@ -1,0 +1,8 @@
+#include "user/dict/QBUserResetPasswordAndLoginMessage.hpp"
+
+#include "frame/detail/DictEngine.hpp"
+#include "user/dict/QBAPIDeviceInfo.hpp"
+#include "user/dict/QBAPIUser.hpp"
+#include "user/dict/QBAPIUserAdditionalData.hpp"
+
+QB_DICT_MESSAGE_DEFINE(qb::QBUserResetPasswordAndLoginMessage)

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "frame/Protocols.hpp"
+#include "user/UserEndpoints.hpp"
+#include "user/typed/UserCheckVerifyCodeResponse.hpp"
+
+namespace qb {
+
+// check_verify_code: checks a verification code; success is the answer.
+struct UserCheckVerifyCodeRequest {
+  std::string email;
+  std::string verifyCode;
+
+  static constexpr auto codingKeys = qb::codingKeys(qb::key("email", &UserCheckVerifyCodeRequest::email),
+                                                    qb::key("verify_code", &UserCheckVerifyCodeRequest::verifyCode));
+  QB_TYPED_REQUEST(user::kCheckVerifyCode, UserCheckVerifyCodeResponse)
+  bool operator==(const UserCheckVerifyCodeRequest&) const = default;
+};
+static_assert(APIEncodableRequest<UserCheckVerifyCodeRequest>);
+
+}  // namespace qb

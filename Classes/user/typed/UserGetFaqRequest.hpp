@@ -1,0 +1,21 @@
+#pragma once
+
+#include "frame/Protocols.hpp"
+#include "user/UserEndpoints.hpp"
+#include "user/typed/UserGetFaqResponse.hpp"
+
+namespace qb {
+
+// get_faq: the account FAQ for a language and device type.
+struct UserGetFaqRequest {
+  LanguageCode languageCode;
+  DeviceType deviceType;
+
+  static constexpr auto codingKeys = qb::codingKeys(qb::key("language_code", &UserGetFaqRequest::languageCode),
+                                                    qb::key("device_type", &UserGetFaqRequest::deviceType));
+  QB_TYPED_REQUEST(user::kGetFaq, UserGetFaqResponse)
+  bool operator==(const UserGetFaqRequest&) const = default;
+};
+static_assert(APIEncodableRequest<UserGetFaqRequest>);
+
+}  // namespace qb

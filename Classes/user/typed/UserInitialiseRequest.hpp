@@ -1,0 +1,27 @@
+#pragma once
+
+#include "frame/Protocols.hpp"
+#include "user/UserEndpoints.hpp"
+#include "user/typed/DeviceInfoModel.hpp"
+#include "user/typed/LoginInfoModel.hpp"
+#include "user/typed/UserInitialiseResponse.hpp"
+
+namespace qb {
+
+// initialise: starts a session, creating a guest account when there is none.
+struct UserInitialiseRequest {
+  std::optional<LoginInfoModel> loginInfo = std::nullopt;
+  std::optional<DeviceInfoModel> deviceInfo = std::nullopt;
+  LanguageCode languageCode;
+  std::string countryCode;
+
+  static constexpr auto codingKeys = qb::codingKeys(qb::key("login_info", &UserInitialiseRequest::loginInfo),
+                                                    qb::key("device_info", &UserInitialiseRequest::deviceInfo),
+                                                    qb::key("language_code", &UserInitialiseRequest::languageCode),
+                                                    qb::key("country_code", &UserInitialiseRequest::countryCode));
+  QB_TYPED_REQUEST(user::kInitialise, UserInitialiseResponse)
+  bool operator==(const UserInitialiseRequest&) const = default;
+};
+static_assert(APIEncodableRequest<UserInitialiseRequest>);
+
+}  // namespace qb

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "frame/Protocols.hpp"
+#include "user/UserEndpoints.hpp"
+#include "user/typed/UserUpdateAdditionalDataResponse.hpp"
+
+namespace qb {
+
+// update_additional_data: the e-mail notification flag and the price label.
+struct UserUpdateAdditionalDataRequest {
+  std::optional<bool> emailNotificationEnabled = std::nullopt;
+  std::optional<std::string> growsPriceLabel = std::nullopt;
+
+  static constexpr auto codingKeys =
+      qb::codingKeys(qb::key("email_notification_enabled", &UserUpdateAdditionalDataRequest::emailNotificationEnabled),
+                     qb::key("grows_price_label", &UserUpdateAdditionalDataRequest::growsPriceLabel));
+  QB_TYPED_REQUEST(user::kUpdateAdditionalData, UserUpdateAdditionalDataResponse)
+  bool operator==(const UserUpdateAdditionalDataRequest&) const = default;
+};
+static_assert(APIEncodableRequest<UserUpdateAdditionalDataRequest>);
+
+}  // namespace qb

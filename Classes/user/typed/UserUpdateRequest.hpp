@@ -1,0 +1,24 @@
+#pragma once
+
+#include "frame/Protocols.hpp"
+#include "user/UserEndpoints.hpp"
+#include "user/enums/Gender.hpp"
+#include "user/typed/UserUpdateResponse.hpp"
+
+namespace qb {
+
+// update: changes the nickname, the avatar image and the gender. The avatar travels as a multipart body.
+struct UserUpdateRequest {
+  std::optional<std::string> nickname = std::nullopt;
+  std::optional<Gender> gender = std::nullopt;
+  std::optional<APIFile> avatar = std::nullopt;
+
+  static constexpr auto codingKeys =
+      qb::codingKeys(qb::key("nickname", &UserUpdateRequest::nickname), qb::key("gender", &UserUpdateRequest::gender),
+                     qb::file("avatar", &UserUpdateRequest::avatar));
+  QB_TYPED_REQUEST(user::kUpdate, UserUpdateResponse)
+  bool operator==(const UserUpdateRequest&) const = default;
+};
+static_assert(APIEncodableRequest<UserUpdateRequest>);
+
+}  // namespace qb

@@ -1,0 +1,76 @@
+// Dictionary face: arbitrary bytes as a reply map for every model and message, and as the values of
+// every message's parameters. Allowed outcomes: DecodingError from the parse, ParameterCheckFailException
+// and JsonTypeError from reading; anything else, and any value read from a reply that cannot be written
+// back exactly, is a finding.
+#include <cstdlib>
+
+#include "fuzz/Registry.hpp"
+#include "frame/detail/DictEngine.hpp"
+
+namespace {
+
+void check(bool ok) {
+  if (!ok) std::abort();
+}
+
+// What was read from a parsed reply can always be written, and reads back equal.
+void checkWritable(const qb::JsonMap& map) {
+  const auto text = qb::toPrettyJson(qb::JsonValue(map));
+  check(text.has_value());
+  check(qb::parseJsonMap(*text) == map);
+}
+
+template <class Model>
+void fuzzModel(const qb::JsonMap& reply) {
+  try {
+    checkWritable(Model::initWithJsonObject(reply)->toDictionary());
+  } catch (const qb::ParameterCheckFailException&) {
+  } catch (const qb::JsonTypeError&) {
+  }
+}
+
+template <class Message>
+void fuzzMessage(const qb::JsonMap& reply) {
+  auto message = std::make_shared<Message>();
+  try {
+    message->parseResponse(reply);
+  } catch (const qb::ParameterCheckFailException&) {
+  } catch (const qb::JsonTypeError&) {
+  }
+  // The same map as parameter values, each read the way a model field of its kind is.
+  try {
+    qb::detail::forEachField(Message::qbParams(),
+                             [&](const auto& field) { qb::detail::readField(*message, field, reply); });
+  } catch (const qb::ParameterCheckFailException&) {
+    return;
+  } catch (const qb::JsonTypeError&) {
+    return;
+  }
+  try {
+    const qb::JsonMap params = message->getParams();
+    check(!qb::toJson(params).empty());
+    check(message->getParams() == params);
+  } catch (const qb::ParameterCheckFailException&) {
+  }
+  check(message->methods().size() == 1);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size < 1) return 0;
+  const std::string_view json(reinterpret_cast<const char*>(data + 1), size - 1);
+  qb::JsonMap reply;
+  try {
+    reply = qb::parseJsonMap(json);
+  } catch (const qb::DecodingError&) {
+    return 0;
+  }
+  const std::uint8_t selector = data[0];
+  if (selector & 0x80) {
+    qb::fuzz::dispatch(qb::fuzz::DictMessages{}, selector, [&]<class T>() { fuzzMessage<T>(reply); });
+  } else {
+    qb::fuzz::dispatch(qb::fuzz::DictModels{}, selector, [&]<class T>() { fuzzModel<T>(reply); });
+  }
+  return 0;
+}

@@ -1,0 +1,137 @@
+// Replies that are wrong, truncated or hostile: each has one defined outcome in both faces.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "frame/JsonValueCodec.hpp"
+#include "frame/detail/JSONDecoderImpl.hpp"
+#include "user/dict/UserDict.hpp"
+#include "user/typed/UserTyped.hpp"
+
+namespace qb {
+namespace {
+
+using Kind = DecodingError::Kind;
+
+std::optional<Kind> typedFailure(const std::string& json) {
+  try {
+    JSONDecoder().decode<UserGetFaqResponse>(json);
+  } catch (const DecodingError& e) {
+    return e.kind();
+  }
+  return std::nullopt;
+}
+
+TEST(HostileInput, MalformedRepliesAreDataCorruptedInBothFaces) {
+  const std::string deep = std::string(100000, '[') + std::string(100000, ']');
+  const std::string cases[] = {
+      deep,
+      R"({"faqs": )" + deep + "}",
+      "{\"faqs\": [{\"title\": \"\xff\", \"content\": \"c\", \"faq_type\": 1}]}",  // invalid UTF-8
+      R"({"faqs": [{"title": "\ud800", "content": "c", "faq_type": 1}]})",     // lone surrogate escape
+      R"({"faqs": [{"title": "t", "content": "c", "faq_type": 1e400}]})",
+      R"({"faqs": [)",
+      R"({"faqs": []} {})",
+      "",
+  };
+  for (const auto& json : cases) {
+    SCOPED_TRACE(json.substr(0, 60));
+    EXPECT_EQ(typedFailure(json), Kind::dataCorrupted);
+    try {
+      parseJsonMap(json);
+      ADD_FAILURE() << "parsed";
+    } catch (const DecodingError& e) {
+      EXPECT_EQ(e.kind(), Kind::dataCorrupted);
+    }
+  }
+}
+
+TEST(HostileInput, ValuesUnderUnknownKeysAreSkippedUnread) {
+  // The Typed face reads past what a record does not declare without validating it beyond UTF-8 and
+  // bracket nesting (that is what keeps decoding near the parser's speed); the Dictionary face parses all.
+  const std::string json = R"({"faqs": [], "x": )" + std::string(100000, '{') + std::string(100000, '}') + "}";
+  EXPECT_EQ(typedFailure(json), std::nullopt);
+  EXPECT_THROW(parseJsonMap(json), DecodingError);
+}
+
+TEST(HostileInput, AHugeTextIsKeptWhole) {
+  const std::string big(50 << 20, 'x');
+  const std::string json = R"({"faqs": [{"title": ")" + big + R"(", "content": "c", "faq_type": 1}]})";
+  EXPECT_EQ(JSONDecoder().decode<UserGetFaqResponse>(json).faqs[0].title.size(), big.size());
+  EXPECT_EQ(QBAPIFaq::initWithJsonObject(parseJsonMap(json).at("faqs").as_array()[0])->title()->as_string().size(),
+            big.size());
+}
+
+TEST(HostileInput, NumbersAtTheLimits) {
+  struct Case {
+    const char* number;
+    std::optional<Kind> typed;  // as the Int64 faq_type
+    const char* dictionary;     // as written back by the Dictionary face
+  } cases[] = {
+      {"9223372036854775807", std::nullopt, "9223372036854775807"},
+      {"-9223372036854775808", std::nullopt, "-9223372036854775808"},
+      {"9223372036854775808", Kind::typeMismatch, "9223372036854775808"},
+      {"18446744073709551615", Kind::typeMismatch, "18446744073709551615"},
+      {"18446744073709551616", Kind::dataCorrupted, nullptr},
+      {"-9223372036854775809", Kind::dataCorrupted, nullptr},
+      {"1e400", Kind::dataCorrupted, nullptr},
+      {"-0", std::nullopt, "0"},
+      {"-0.0", Kind::typeMismatch, "-0.0"},
+      {"1.0", Kind::typeMismatch, "1.0"},
+  };
+  for (const auto& c : cases) {
+    const std::string faq = std::string(R"({"title": "t", "content": "c", "faq_type": )") + c.number + "}";
+    SCOPED_TRACE(c.number);
+    EXPECT_EQ(typedFailure("{\"faqs\": [" + faq + "]}"), c.typed);
+    if (c.dictionary) {
+      EXPECT_EQ(toJson(*QBAPIFaq::initWithJsonObject(parseJsonMap(faq))->faqType()), c.dictionary);
+    } else {
+      EXPECT_THROW(parseJsonMap(faq), DecodingError);
+    }
+  }
+  EXPECT_TRUE(std::signbit(JSONDecoder().decode<std::vector<double>>("[-0.0]")[0]));
+}
+
+TEST(HostileInput, DuplicateKeysKeepTheLastValueInBothFaces) {
+  const std::string json = R"({"title": "first", "content": "c", "faq_type": 1, "title": "last"})";
+  EXPECT_EQ(JSONDecoder().decode<FaqModel>(json).title, "last");
+  EXPECT_EQ(*QBAPIFaq::initWithJsonObject(parseJsonMap(json))->title(), JsonValue("last"));
+}
+
+TEST(HostileInput, WrongShapesAreTypedErrors) {
+  struct Case {
+    const char* json;
+    const char* path;  // of the Typed face's error
+    Kind kind;
+  } cases[] = {
+      {R"({"faqs": {"title": "t"}})", "faqs", Kind::typeMismatch},
+      {R"({"faqs": [{"title": "t", "content": "c", "faq_type": 1}, null]})", "faqs[1]", Kind::valueNotFound},
+      {R"({"faqs": [[]]})", "faqs[0]", Kind::typeMismatch},
+      {R"({"faqs": "none"})", "faqs", Kind::typeMismatch},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.json);
+    try {
+      JSONDecoder().decode<UserGetFaqResponse>(c.json);
+      ADD_FAILURE();
+    } catch (const DecodingError& e) {
+      EXPECT_EQ(e.kind(), c.kind);
+      EXPECT_EQ(renderCodingPath(e.codingPath()), c.path);
+    }
+    EXPECT_THROW(QBUserGetFaqMessage::initWithData(0, 1)->parseResponse(parseJsonMap(c.json)), JsonTypeError);
+  }
+}
+
+TEST(HostileInput, UnwritableValuesSetByTheHostAreRefused) {
+  auto device = QBAPIDeviceInfo::initWithJsonObject(parseJsonMap(R"({"device_token": "t"})"));
+  device->setDeviceToken(JsonValue(std::nan("")));
+  EXPECT_FALSE(device->toJsonString());
+  auto message = QBUserUpdateDeviceInfoMessage::initWithData(device);
+  EXPECT_THROW(message->getParams(), EncodingError) << "never a parameter map missing the record";
+  device->setDeviceToken(JsonValue("\xc0\xaf"));  // an overlong encoding is not UTF-8
+  EXPECT_THROW(message->getParams(), EncodingError);
+  EXPECT_THROW(JSONEncoder().encode(FaqModel{.title = "\xc0\xaf", .content = "", .faqType = 0}), EncodingError);
+}
+
+}  // namespace
+}  // namespace qb

@@ -1,0 +1,174 @@
+// Every Typed-face account record: round trip, required and optional members, enumeration rules.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "frame/JsonValueCodec.hpp"
+#include "user/Fixtures.hpp"
+#include "user/enums/UserEnums.hpp"
+#include "user/typed/UserTyped.hpp"
+
+namespace qb {
+namespace {
+
+using namespace fixtures;
+
+struct RecordRow {
+  const char* name;
+  std::string full;
+  std::vector<const char*> required;  // in declared order
+  // Decodes, then checks that encoding and decoding again gives an equal record.
+  std::function<void(std::string_view)> roundTrip;
+};
+
+template <class T>
+RecordRow row(const char* name, std::string full, std::vector<const char*> required) {
+  return {name, std::move(full), std::move(required), [](std::string_view json) {
+            const T first = JSONDecoder().decode<T>(json);
+            const std::string text = JSONEncoder().encode(first);
+            EXPECT_EQ(JSONDecoder().decode<T>(text), first) << text;
+            EXPECT_EQ(JsonValueDecoder().decode<T>(JsonValueEncoder().encode(first)), first);
+          }};
+}
+
+const std::vector<RecordRow>& rows() {
+  static const std::vector<RecordRow> table{
+      row<UserModel>("User", kUser,
+                     {"user_id", "uuid", "created_at", "guest_user", "vip", "auto_renew_status",
+                      "expert_consultation_count"}),
+      row<UserAdditionalDataModel>("UserAdditionalData", kUserAdditional,
+                                   {"exist_user", "today_user", "is_vip_in_history"}),
+      row<LoginInfoModel>("LoginInfo", kLoginInfo, {"login_type", "login_key"}),
+      row<LoginMethodModel>("LoginMethod", kLoginMethod, {"type", "login_name"}),
+      row<ThirdPartyUserInfoModel>("ThirdPartyUserInfo", kThirdParty, {}),
+      row<VipInfoModel>("VipInfo", kVipInfo,
+                        {"user_id", "is_vip", "is_trial", "is_auto_renew", "is_vip_in_history", "is_paid_in_history",
+                         "vip_level"}),
+      row<DeviceInfoModel>("DeviceInfo", kDevice, {"device_type", "device_token"}),
+      row<DeviceDetailInfoModel>("DeviceDetailInfo", kDeviceDetail,
+                                 {"apps_flyer_id", "country_code", "language", "app_version"}),
+      row<IosDeviceDataModel>("IosDeviceData", kIos, {}),
+      row<AndroidDeviceDataModel>("AndroidDeviceData", kAndroid, {}),
+      row<ClientConfigModel>("ClientConfig", kClientConfig,
+                             {"auto_update", "expert_default_count", "timestamp", "legal_config"}),
+      row<AutoUpdateModel>("AutoUpdate", kAutoUpdate, {"has_update", "force_update"}),
+      row<LegalConfigModel>("LegalConfig", kLegal, {"agreement_version", "privacy_policy_version"}),
+      row<FaqModel>("Faq", kFaq, {"title", "content", "faq_type"}),
+      row<UserInitialiseResponse>("InitialiseResponse", kInitialiseReply,
+                                  {"user", "user_additional_data", "config", "other_configs", "app_server_time"}),
+      row<UserLoginOrCreateResponse>("LoginOrCreateResponse", kLoginReply,
+                                     {"user", "user_additional_data", "access_token"}),
+      row<UserLoginOrCreateForWebsiteResponse>("LoginOrCreateForWebsiteResponse", kLoginReply,
+                                               {"user", "user_additional_data", "access_token"}),
+      row<UserResetPasswordAndLoginResponse>("ResetPasswordAndLoginResponse", kLoginReply,
+                                             {"user", "user_additional_data", "access_token"}),
+      row<UserGetUserResponse>("GetUserResponse", kLoginReply, {"user", "user_additional_data"}),
+      row<UserAppleLoginCallBackResponse>("AppleLoginCallBackResponse", R"({"apple_user_id": "a.1"})",
+                                          {"apple_user_id"}),
+      row<UserGetConfigResponse>("GetConfigResponse", R"({"config": )" + kClientConfig + R"(, "other_configs": {}})",
+                                 {"config", "other_configs"}),
+      row<UserGetFaqResponse>("GetFaqResponse", "{\"faqs\": [" + kFaq + "]}", {"faqs"}),
+      row<UserUpdateResponse>("UpdateResponse", R"({"avatar_url": "https://a.example/2.png"})", {}),
+      row<UserGetVerifyCodeResponse>("GetVerifyCodeResponse", "{}", {}),
+  };
+  return table;
+}
+
+DecodingError::Kind failureKind(const RecordRow& row, const std::string& json, std::string* path) {
+  try {
+    row.roundTrip(json);
+  } catch (const DecodingError& e) {
+    *path = renderCodingPath(e.codingPath());
+    return e.kind();
+  }
+  *path = "<decoded>";
+  return DecodingError::Kind::dataCorrupted;
+}
+
+TEST(UserTypedRecords, FullRepliesRoundTrip) {
+  for (const auto& row : rows()) {
+    SCOPED_TRACE(row.name);
+    row.roundTrip(row.full);
+  }
+}
+
+TEST(UserTypedRecords, RequiredMembersFailWhenMissingOrNullOptionalOnesMayBeAbsent) {
+  for (const auto& row : rows()) {
+    const JsonMap full = parseJsonMap(row.full);
+    for (const char* key : row.required) {
+      JsonMap map = full;
+      map.erase(key);
+      std::string path;
+      EXPECT_EQ(failureKind(row, toJson(map), &path), DecodingError::Kind::keyNotFound) << row.name << " " << key;
+      EXPECT_EQ(path, key);
+      map[key] = nullptr;
+      EXPECT_EQ(failureKind(row, toJson(map), &path), DecodingError::Kind::valueNotFound) << row.name << " " << key;
+      EXPECT_EQ(path, key);
+    }
+    JsonMap minimal;
+    for (const char* key : row.required) minimal[key] = full.at(key);
+    SCOPED_TRACE(row.name);
+    row.roundTrip(toJson(minimal));
+    for (const auto& member : full) {
+      if (!minimal.contains(member.key())) minimal[member.key()] = nullptr;  // null optionals are absent
+    }
+    row.roundTrip(toJson(minimal));
+  }
+}
+
+TEST(UserTypedRecords, EnumerationRules) {
+  JsonMap vip = parseJsonMap(kVipInfo);
+  for (int level : {9, -1, 1}) {
+    vip["vip_level"] = level;
+    EXPECT_EQ(JSONDecoder().decode<VipInfoModel>(toJson(vip)).vipLevel, VipLevel::gold) << level;
+  }
+  EXPECT_EQ(allCases<VipLevel>().size(), 6u);
+
+  struct Case {
+    std::string json;
+    const char* description;
+  } failing[] = {
+      {R"({"nickname": "n", "gender": 7})", "Cannot initialize Gender from invalid Int value 7"},
+      {R"({"login_type": 4, "login_key": "k"})", "Cannot initialize LoginType from invalid Int value 4"},
+      {R"({"login_type": 5, "login_key": "k"})", "Cannot initialize LoginType from invalid Int value 5"},
+      {R"({"login_type": 0, "login_key": "k"})", "Cannot initialize LoginType from invalid Int value 0"},
+  };
+  for (const auto& c : failing) {
+    try {
+      if (c.json.find("gender") != std::string::npos) {
+        JSONDecoder().decode<ThirdPartyUserInfoModel>(c.json);
+      } else {
+        JSONDecoder().decode<LoginInfoModel>(c.json);
+      }
+      ADD_FAILURE() << c.json;
+    } catch (const DecodingError& e) {
+      EXPECT_EQ(e.kind(), DecodingError::Kind::dataCorrupted);
+      EXPECT_EQ(e.debugDescription(), c.description);
+    }
+  }
+  JsonMap user = parseJsonMap(kUser);
+  user["auto_renew_status"] = 0;
+  EXPECT_THROW(JSONDecoder().decode<UserModel>(toJson(user)), DecodingError) << "0 is no AutoRenewStatus";
+}
+
+TEST(UserTypedRecords, DifferencesFromTheDictionaryFace) {
+  JsonMap user = parseJsonMap(kUser);
+  user.erase("gender");
+  EXPECT_FALSE(JSONDecoder().decode<UserModel>(toJson(user)).gender);
+  user["gender"] = nullptr;
+  EXPECT_FALSE(JSONDecoder().decode<UserModel>(toJson(user)).gender);
+  user["properties"] = "text";
+  EXPECT_THROW(JSONDecoder().decode<UserModel>(toJson(user)), DecodingError);
+
+  const auto decoded = JSONDecoder().decode<UserModel>(kUser);
+  EXPECT_EQ(decoded.userId, 9007199254740993);
+  EXPECT_EQ(decoded.uuid, "5f0c-\u00e9\"x\"");
+  EXPECT_EQ(decoded.createdAt.time_since_epoch().count(), 1700000000000);
+  EXPECT_EQ(decoded.properties->at("n").value, parseJson("[1, 2.5, null]"));
+
+  // "is_refund_in_history" exists only in the Dictionary face; the key is read past.
+  EXPECT_EQ(JSONEncoder().encode(JSONDecoder().decode<VipInfoModel>(kVipInfo)).find("is_refund"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace qb
