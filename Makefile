@@ -48,9 +48,17 @@ tsan: deps
 	cmake --build --preset tsan -j $(JOBS)
 	ctest --preset tsan
 
+# Benchmarks: a short minimum time per benchmark and the fastest of a few repetitions keep the whole
+# run (build included) within a few minutes on two cores; the table and the `qb-bench:` line come last.
+BENCH_MIN_TIME ?= 0.2
+BENCH_REPETITIONS ?= 3
 bench: deps
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
+	build/bench/bench/qb_bench --benchmark_min_time=$(BENCH_MIN_TIME) \
+	  --benchmark_repetitions=$(BENCH_REPETITIONS) --benchmark_display_aggregates_only=true \
+	  --benchmark_out=build/bench/results.json --benchmark_out_format=json
+	python3 bench/report.py build/bench/results.json
 
 FUZZ_SECONDS ?= 20
 fuzz: deps

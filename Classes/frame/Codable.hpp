@@ -148,12 +148,18 @@ struct KeyTable {
   }
 };
 
+// Calls f(std::integral_constant<std::size_t, I>{}) for the key index I equal to the runtime `index`.
+template <class T, class F>
+constexpr void visitKeyIndex(int index, F&& f) {
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    (void)((index == static_cast<int>(I) ? (f(std::integral_constant<std::size_t, I>{}), true) : false) || ...);
+  }(std::make_index_sequence<keyCount<T>>{});
+}
+
 // Calls f(key) for the key with runtime index `index`.
 template <class T, class F>
 constexpr void visitKey(int index, F&& f) {
-  [&]<std::size_t... I>(std::index_sequence<I...>) {
-    (void)((index == static_cast<int>(I) ? (f(std::get<I>(T::codingKeys)), true) : false) || ...);
-  }(std::make_index_sequence<keyCount<T>>{});
+  visitKeyIndex<T>(index, [&](auto i) { f(std::get<decltype(i)::value>(T::codingKeys)); });
 }
 
 }  // namespace detail

@@ -8,9 +8,12 @@ simdjson::ondemand::document& openDocument(std::string_view json) {
   thread_local simdjson::ondemand::parser parser;
   thread_local std::string buffer;
   thread_local simdjson::ondemand::document document;
-  // Large buffers are not kept past the next reply.
-  if (buffer.capacity() > (std::size_t{8} << 20) && json.size() < (std::size_t{1} << 20)) {
-    std::string().swap(buffer);
+  // Large buffers, the copy's and the parser's (about seven times a reply's size, mostly untouched),
+  // are not kept past the next small reply.
+  constexpr std::size_t kLarge = std::size_t{8} << 20;
+  if (json.size() < (std::size_t{1} << 20)) {
+    if (buffer.capacity() > kLarge) std::string().swap(buffer);
+    if (parser.capacity() > kLarge) parser = simdjson::ondemand::parser();
   }
   buffer.assign(json);
   buffer.append(simdjson::SIMDJSON_PADDING, '\0');
@@ -31,9 +34,9 @@ JsonValue streamToValue(simdjson::ondemand::value value, std::size_t depth) {
       for (auto result : object) {
         simdjson::ondemand::field field;
         if (std::move(result).get(field)) throwStreamFailure();
-        const std::string_view key = fieldKey(field);
-        std::string owned(key);
-        map.insert_or_assign(owned, streamToValue(field.value(), depth + 1));
+        // The key stays valid while the document is read: it points into the reply or the parser's
+        // text buffer.
+        map.insert_or_assign(fieldKey(field), streamToValue(field.value(), depth + 1));
       }
       return map;
     }

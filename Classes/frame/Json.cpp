@@ -4,6 +4,8 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 #include "frame/Errors.hpp"
 
@@ -157,31 +159,65 @@ bool appendJsonDouble(std::string& out, double d) {
   return true;
 }
 
+namespace {
+
+constexpr std::uint64_t kOnes = 0x0101010101010101ull;
+constexpr std::uint64_t kHighs = 0x8080808080808080ull;
+
+// Sets the high bit of each byte of `w` that is below 0x20, a quote or a backslash. A byte above such
+// a byte may be flagged too; the word is then looked at byte by byte, which decides.
+constexpr std::uint64_t mayNeedEscape(std::uint64_t w) noexcept {
+  const std::uint64_t quote = w ^ (kOnes * '"');
+  const std::uint64_t backslash = w ^ (kOnes * '\\');
+  return ((w - kOnes * 0x20) | (quote - kOnes) | (backslash - kOnes)) & ~w & kHighs;
+}
+
+}  // namespace
+
 bool appendQuotedJson(std::string& out, std::string_view s) {
-  if (!simdjson::validate_utf8(s.data(), s.size())) return false;
   static constexpr char kHex[] = "0123456789abcdef";
   out.reserve(out.size() + s.size() + 2);
   out += '"';
-  std::size_t run = 0;
-  for (std::size_t i = 0; i < s.size(); ++i) {
-    const auto c = static_cast<unsigned char>(s[i]);
-    if (c >= 0x20 && c != '"' && c != '\\') continue;
-    out.append(s.data() + run, i - run);
-    run = i + 1;
-    switch (c) {
-      case '"': out += "\\\""; break;
-      case '\\': out += "\\\\"; break;
-      case '\n': out += "\\n"; break;
-      case '\r': out += "\\r"; break;
-      case '\t': out += "\\t"; break;
-      case '\b': out += "\\b"; break;
-      case '\f': out += "\\f"; break;
-      default:
-        out += "\\u00";
-        out += kHex[c >> 4];
-        out += kHex[c & 0xF];
+  // One pass, eight bytes at a time: runs that need no escape are copied whole, and the text is
+  // checked as UTF-8 only when it has a byte outside ASCII.
+  bool ascii = true;
+  std::size_t run = 0;  // start of the text not yet copied
+  std::size_t i = 0;
+  const std::size_t n = s.size();
+  while (i < n) {
+    std::size_t end = n;  // bytes up to `end` are looked at one by one
+    if (i + 8 <= n) {
+      std::uint64_t w;
+      std::memcpy(&w, s.data() + i, 8);
+      if ((w & kHighs) != 0) ascii = false;
+      if (mayNeedEscape(w) == 0) {
+        i += 8;
+        continue;
+      }
+      end = i + 8;
+    }
+    for (; i < end; ++i) {
+      const auto c = static_cast<unsigned char>(s[i]);
+      if (c >= 0x80) ascii = false;
+      if (c >= 0x20 && c != '"' && c != '\\') continue;
+      out.append(s.data() + run, i - run);
+      run = i + 1;
+      switch (c) {
+        case '"': out += "\\\""; break;
+        case '\\': out += "\\\\"; break;
+        case '\n': out += "\\n"; break;
+        case '\r': out += "\\r"; break;
+        case '\t': out += "\\t"; break;
+        case '\b': out += "\\b"; break;
+        case '\f': out += "\\f"; break;
+        default:
+          out += "\\u00";
+          out += kHex[c >> 4];
+          out += kHex[c & 0xF];
+      }
     }
   }
+  if (!ascii && !simdjson::validate_utf8(s.data(), s.size())) return false;
   out.append(s.data() + run, s.size() - run);
   out += '"';
   return true;
@@ -191,6 +227,11 @@ bool appendQuotedJson(std::string& out, std::string_view s) {
 
 JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
   auto& parser = threadParser();
+  // The parser's buffers take about fourteen times the largest reply seen; after a large reply they
+  // are given back at the next small one.
+  if (parser.capacity() > (std::size_t{8} << 20) && bytes.size() < (std::size_t{1} << 20)) {
+    parser = simdjson::dom::parser();
+  }
   if (parser.max_depth() != kMaxJsonDepth || parser.capacity() < bytes.size()) {
     if (auto error = parser.allocate(std::max<std::size_t>(bytes.size(), 4096), kMaxJsonDepth)) {
       throw parseFailure(error);

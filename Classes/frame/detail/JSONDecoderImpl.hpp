@@ -4,6 +4,8 @@
 
 #include <simdjson.h>
 
+#include <cstring>
+
 #include "frame/JSONDecoder.hpp"
 #include "frame/JsonValueCodec.hpp"
 
@@ -26,9 +28,25 @@ inline std::string_view fieldKey(simdjson::ondemand::field& field) {
   return unescaped;
 }
 
+// Whether the raw key (the reply's bytes after its opening quote) is exactly the I-th key of T. The
+// name's length is a constant, so this is a few word compares; reading name.size() + 1 bytes stays
+// inside the reply and its padding, which is longer than the names compared here.
+template <class T, std::size_t I>
+bool rawKeyIs(const char* raw) noexcept {
+  constexpr std::string_view name = KeyTable<T>::names[I];
+  if constexpr (name.size() >= simdjson::SIMDJSON_PADDING) {
+    return false;  // left to the key table
+  } else {
+    return std::memcmp(raw, name.data(), name.size()) == 0 && raw[name.size()] == '"';
+  }
+}
+
 // A decoder node over the parser's on-demand value: records are read in document order.
 class StreamNode {
  public:
+  // JSONDecoder::decode reports a failure by decoding the reply again in declared order.
+  static constexpr bool kFailuresAreRetried = true;
+
   StreamNode(simdjson::ondemand::value value, DateStrategy strategy) : value_(value), strategy_(strategy) {}
 
   DateStrategy dateStrategy() const noexcept { return strategy_; }
@@ -68,6 +86,37 @@ class StreamNode {
       const std::string_view key = fieldKey(field);
       StreamNode child(field.value(), strategy_);
       f(key, child);
+    }
+  }
+  // Calls f(index, key, child) for each member whose key is one of T's coding keys, in document order.
+  // Replies nearly always list a record's keys in declared order, so the key after the previous match
+  // is tried first, on the raw bytes with its length known at compile time; any other key goes
+  // through the key table.
+  template <class T, class F>
+  void forEachKnownField(F&& f) {
+    simdjson::ondemand::object object;
+    if (value_.get_object().get(object)) throwStreamFailure();
+    int expected = 0;
+    for (auto result : object) {
+      simdjson::ondemand::field field;
+      if (std::move(result).get(field)) throwStreamFailure();
+      const char* raw = field.key().raw();
+      StreamNode child(field.value(), strategy_);
+      bool matched = false;
+      visitKeyIndex<T>(expected, [&](auto i) {
+        if (rawKeyIs<T, decltype(i)::value>(raw)) {
+          matched = true;
+          f(expected, std::get<decltype(i)::value>(T::codingKeys), child);
+        }
+      });
+      if (matched) {
+        ++expected;
+        continue;
+      }
+      const int index = KeyTable<T>::find(fieldKey(field));
+      if (index < 0) continue;  // the parser skips the value
+      expected = index + 1;
+      visitKey<T>(index, [&](const auto& key) { f(index, key, child); });
     }
   }
   template <class F>

@@ -10,9 +10,11 @@
 // A decoder node N offers:
 //   isNull() readBool() readInt64() readDouble() readString() -> string_view readAny() -> JsonValue
 //   forEachElement(f(N&)) forEachField(f(string_view key, N&)) dateStrategy()
-//   and, optionally, expectObject() with find(string_view key) -> std::optional<N>: with it records are read key by key in
-//   declared order, so the first failing field in declared order is the one reported; without it they
-//   are read in document order (fast, but a different field may be reported when several are wrong).
+//   and either expectObject() with find(string_view key) -> std::optional<N>: records are then read key
+//   by key in declared order, so the first failing field in declared order is the one reported;
+//   or forEachKnownField<T>(f(int keyIndex, const Key& key, N&)), which calls f for each member whose
+//   key is one of T's coding keys (`key`, its index in KeyTable<T>), skipping the others: records are
+//   then read in document order (fast, but a different field may be reported when several are wrong).
 // Its read functions throw DecodingError (typeMismatch, empty path) for a value of the wrong kind.
 #pragma once
 
@@ -56,6 +58,27 @@ void decodeValue(N& node, T& out);
 template <class N, class T>
 void decodeRecord(N& node, T& out);
 
+// A node whose failures need no detail: its decoder decodes the reply once more through a node that
+// reports errors, which meets the same failure. It declares `static constexpr bool kFailuresAreRetried
+// = true` and is spared the coding paths and the null checks of required members (a null fails the
+// member's read anyway).
+template <class N>
+concept RetryingNode = requires { requires N::kFailuresAreRetried; };
+
+// Runs decode(); a DecodingError leaves it with element() in front of its coding path.
+template <class N, class Decode, class Element>
+void withinPath(Decode&& decode, Element&& element) {
+  if constexpr (RetryingNode<N>) {
+    decode();
+  } else {
+    try {
+      decode();
+    } catch (const DecodingError& error) {
+      throw error.prefixed(element());
+    }
+  }
+}
+
 // The required form: null is valueNotFound; the if-present form: null leaves the member absent.
 template <class N, class M>
 void decodeMember(N& node, M& member) {
@@ -69,7 +92,9 @@ void decodeMember(N& node, M& member) {
       decodeValue(node, member.emplace());
     }
   } else {
-    if (node.isNull()) throwValueNotFound(typeName<M>());
+    if constexpr (!RetryingNode<N>) {
+      if (node.isNull()) throwValueNotFound(typeName<M>());
+    }
     decodeValue(node, member);
   }
 }
@@ -83,7 +108,9 @@ void decodeValue(N& node, T& out) {
   } else if constexpr (std::is_same_v<T, double>) {
     out = node.readDouble();
   } else if constexpr (std::is_same_v<T, std::string>) {
-    out = node.readString();
+    // A new string of exactly the text's size, moved in: cheaper than assign(), whose general path
+    // handles overlap and rounds the capacity up for growth.
+    out = std::string(node.readString());
   } else if constexpr (APIEnumrable<T>) {
     out = enumFromDecoded<T>(node.readInt64());
   } else if constexpr (std::is_same_v<T, Date>) {
@@ -103,20 +130,13 @@ void decodeValue(N& node, T& out) {
     out.clear();
     node.forEachElement([&](N& child) {
       const std::size_t index = out.size();
-      try {
-        decodeMember(child, out.emplace_back());
-      } catch (const DecodingError& error) {
-        throw error.prefixed(index);
-      }
+      withinPath<N>([&] { decodeMember(child, out.emplace_back()); }, [&] { return CodingPathElement(index); });
     });
   } else if constexpr (IsStringMap<T>::value) {
     out.clear();
     node.forEachField([&](std::string_view key, N& child) {
-      try {
-        decodeMember(child, out[std::string(key)]);
-      } catch (const DecodingError& error) {
-        throw error.prefixed(std::string(key));
-      }
+      withinPath<N>([&] { decodeMember(child, out[std::string(key)]); },
+                    [&] { return CodingPathElement(std::string(key)); });
     });
   } else {
     static_assert(Codable<T>, "no decoding is declared for this type");
@@ -139,36 +159,29 @@ void decodeRecord(N& node, T& out) {
         using M = typename std::remove_cvref_t<decltype(key)>::Member;
         if constexpr (std::remove_cvref_t<decltype(key)>::isFile) return;
         else {
-          try {
-            std::optional<N> child = node.find(key.name);
-            if (child) {
-              decodeMember(*child, out.*key.member);
-            } else if constexpr (IsOptional<M>::value) {
-              (out.*key.member).reset();
-            } else {
-              throwKeyNotFound(key.name);
-            }
-          } catch (const DecodingError& error) {
-            throw error.prefixed(std::string(key.name));
-          }
+          withinPath<N>(
+              [&] {
+                std::optional<N> child = node.find(key.name);
+                if (child) {
+                  decodeMember(*child, out.*key.member);
+                } else if constexpr (IsOptional<M>::value) {
+                  (out.*key.member).reset();
+                } else {
+                  throwKeyNotFound(key.name);
+                }
+              },
+              [&] { return CodingPathElement(std::string(key.name)); });
         }
       };
       (one(k), ...);
     }, T::codingKeys);
   } else {
     std::uint64_t seen = 0;
-    node.forEachField([&](std::string_view name, N& child) {
-      const int index = KeyTable<T>::find(name);
-      if (index < 0) return;
-      visitKey<T>(index, [&](const auto& key) {
-        if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
-          try {
-            decodeMember(child, out.*key.member);
-          } catch (const DecodingError& error) {
-            throw error.prefixed(std::string(key.name));
-          }
-        }
-      });
+    node.template forEachKnownField<T>([&](int index, const auto& key, N& child) {
+      if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
+        withinPath<N>([&] { decodeMember(child, out.*key.member); },
+                      [&] { return CodingPathElement(std::string(key.name)); });
+      }
       seen |= std::uint64_t{1} << index;
     });
     std::size_t index = 0;

@@ -1,0 +1,354 @@
+// The benchmarks: every reply of the corpus through the Typed face, the Dictionary face and the
+// encoder, each against its peers on the same bytes; and the peak memory of decoding the largest reply.
+// Names are <group>/<variant>/<reply>; report.py turns the JSON output into the ratio table.
+#include <benchmark/benchmark.h>
+
+#include <boost/json/monotonic_resource.hpp>
+#include <malloc.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <thread>
+
+#include "Checksum.hpp"
+#include "Corpus.hpp"
+#include "Memory.hpp"
+#include "Records.hpp"
+#include "frame/JSONEncoder.hpp"
+#include "frame/Json.hpp"
+#include "peers/Peers.hpp"
+
+namespace qb::bench {
+namespace {
+
+// Each benchmark checks its variant once, on its first run, before measuring.
+bool checkedOnce(const benchmark::State& state, const Reply& reply, std::string_view variant) {
+  static std::map<std::string, bool> checked;
+  (void)state;
+  return !checked.emplace(std::string(variant) + "/" + reply.name, true).second;
+}
+
+template <class Decode, class Check>
+void measure(benchmark::State& state, const Reply& reply, std::string_view variant, std::size_t bytes,
+             Decode decode, Check check) {
+  if (!checkedOnce(state, reply, variant)) {
+    std::string problem;
+    try {
+      problem = check(decode(reply.json));
+    } catch (const std::exception& e) {
+      problem = std::string("failed: ") + e.what();
+    }
+    if (!problem.empty()) {
+      state.SkipWithError(problem.c_str());
+      return;
+    }
+  }
+  // Every benchmark starts from a heap with nothing free, so none inherits the free lists that the one
+  // before it left (they change what the allocator costs).
+  malloc_trim(0);
+  for (auto _ : state) {
+    auto result = decode(reply.json);
+    benchmark::DoNotOptimize(result);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes));
+  state.counters["bytes"] = static_cast<double>(bytes);
+}
+
+std::string compare(std::uint64_t got, std::uint64_t expected) {
+  return got == expected ? std::string() : "checksum " + std::to_string(got) + " differs from the reference " +
+                                               std::to_string(expected);
+}
+
+// The reference checksum of a reply's records, from a decoder other than the library's.
+template <class T>
+std::uint64_t referenceChecksum(const Reply& reply) {
+  static std::map<std::string, std::uint64_t> cache;
+  auto [at, fresh] = cache.try_emplace(reply.name, 0);
+  if (fresh) at->second = checksumOf(peers::decodeBoost<T>(reply.json));
+  return at->second;
+}
+
+// What --profile=NAME runs: the benchmark's work alone, for perf and callgrind.
+std::map<std::string, std::function<void()>>& profileTargets() {
+  static std::map<std::string, std::function<void()>> targets;
+  return targets;
+}
+
+template <class Decode>
+void addProfileTarget(const std::string& name, const Reply& reply, Decode decode) {
+  profileTargets()[name] = [&reply, decode] { benchmark::DoNotOptimize(decode(reply.json)); };
+}
+
+template <class T, class Decode>
+void registerDecoder(const std::string& group, const std::string& variant, const Reply& reply, Decode decode) {
+  auto* b = benchmark::RegisterBenchmark((group + "/" + variant + "/" + reply.name).c_str(),
+                                         [&reply, variant, decode](benchmark::State& state) {
+                                           measure(state, reply, "typed/" + variant, reply.json.size(), decode,
+                                                   [&](const T& result) {
+                                                     return compare(checksumOf(result), referenceChecksum<T>(reply));
+                                                   });
+                                         });
+  b->Unit(reply.large ? benchmark::kMillisecond : benchmark::kNanosecond);
+  addProfileTarget(group + "/" + variant + "/" + reply.name, reply, decode);
+}
+
+template <class T>
+void registerTyped(const Reply& reply) {
+  auto* ceiling = benchmark::RegisterBenchmark(("typed/ceiling/" + reply.name).c_str(), [&reply](benchmark::State& state) {
+    measure(state, reply, "typed/ceiling", reply.json.size(), peers::simdjsonWalk, [&](std::uint64_t sum) {
+      return compare(sum, hashJson(parseJson(reply.json)));
+    });
+  });
+  ceiling->Unit(reply.large ? benchmark::kMillisecond : benchmark::kNanosecond);
+  registerDecoder<T>("typed", "qb", reply, [](std::string_view json) { return JSONDecoder().decode<T>(json); });
+  registerDecoder<T>("typed", "handwritten", reply, peers::decodeHandWritten<T>);
+  registerDecoder<T>("typed", "boost", reply, peers::decodeBoost<T>);
+  registerDecoder<T>("typed", "nlohmann", reply, peers::decodeNlohmann<T>);
+  registerDecoder<T>("typed", "rapidjson", reply, peers::decodeRapidjson<T>);
+}
+
+// The Dictionary face: parse into a qb::JsonMap, then the message reads its results from it.
+template <class T, class Message>
+std::shared_ptr<Message> decodeDictionary(std::string_view json, boost::json::storage_ptr storage) {
+  auto message = std::make_shared<Message>();
+  message->parseResponse(parseJsonMap(json, std::move(storage)));
+  return message;
+}
+
+boost::json::storage_ptr monotonic() { return boost::json::make_shared_resource<boost::json::monotonic_resource>(); }
+
+// `count` tells how many records a message read, to be checked against the Typed face's count.
+template <class T, class Message>
+void registerDictionary(const Reply& reply, std::size_t (*count)(const Message&), std::size_t (*expected)(const T&)) {
+  const auto unit = reply.large ? benchmark::kMillisecond : benchmark::kNanosecond;
+  for (bool pooled : {false, true}) {
+    const std::string variant = pooled ? "qb_monotonic" : "qb";
+    benchmark::RegisterBenchmark(("dict/" + variant + "/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
+      measure(state, reply, "dict/" + variant, reply.json.size(),
+              [pooled](std::string_view json) {
+                return decodeDictionary<T, Message>(json, pooled ? monotonic() : boost::json::storage_ptr());
+              },
+              [&](const std::shared_ptr<Message>& message) {
+                const std::size_t want = expected(JSONDecoder().decode<T>(reply.json));
+                return count(*message) == want ? std::string()
+                                                : "read " + std::to_string(count(*message)) + " records, expected " +
+                                                      std::to_string(want);
+              });
+    })->Unit(unit);
+    addProfileTarget("dict/" + variant + "/" + reply.name, reply, [pooled](std::string_view json) {
+      return decodeDictionary<T, Message>(json, pooled ? monotonic() : boost::json::storage_ptr());
+    });
+  }
+  auto members = [&reply](std::size_t n) {
+    return n == parseJsonMap(reply.json).size() ? std::string() : std::string("wrong member count");
+  };
+  benchmark::RegisterBenchmark(("dict/boost_parse/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
+    measure(state, reply, "dict/boost_parse", reply.json.size(), [](std::string_view json) { return peers::parseBoost(json); },
+            members);
+  })->Unit(unit);
+  benchmark::RegisterBenchmark(("dict/boost_parse_monotonic/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
+    measure(state, reply, "dict/boost_parse_monotonic", reply.json.size(),
+            [](std::string_view json) { return peers::parseBoost(json, monotonic()); }, members);
+  })->Unit(unit);
+  benchmark::RegisterBenchmark(("dict/nlohmann_parse/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
+    measure(state, reply, "dict/nlohmann_parse", reply.json.size(), peers::parseNlohmann, members);
+  })->Unit(unit);
+}
+
+// Encoding the reply's records; every peer writes the same value, and every output must decode back to
+// the same records.
+template <class T>
+void registerEncoding(const Reply& reply) {
+  struct Inputs {
+    T records;
+    std::string text;
+    peers::BoostWriter boost;
+    peers::NlohmannWriter nlohmann;
+    explicit Inputs(T r) : records(std::move(r)), text(JSONEncoder().encode(records)), boost(text), nlohmann(text) {}
+  };
+  auto inputs = std::make_shared<std::optional<Inputs>>();
+  auto prepared = [inputs, &reply]() -> const Inputs& {
+    if (!*inputs) inputs->emplace(JSONDecoder().decode<T>(reply.json));
+    return **inputs;
+  };
+  auto roundTrip = [&reply](const std::string& text) {
+    return compare(checksumOf(JSONDecoder().decode<T>(text)), referenceChecksum<T>(reply));
+  };
+  const auto unit = reply.large ? benchmark::kMillisecond : benchmark::kNanosecond;
+  benchmark::RegisterBenchmark(("encode/qb/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
+    const Inputs& in = prepared();
+    measure(state, reply, "encode/qb", in.text.size(), [&](std::string_view) { return JSONEncoder().encode(in.records); },
+            roundTrip);
+  })->Unit(unit);
+  addProfileTarget("encode/qb/" + reply.name, reply,
+                   [prepared](std::string_view) { return JSONEncoder().encode(prepared().records); });
+  benchmark::RegisterBenchmark(("encode/boost/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
+    const Inputs& in = prepared();
+    measure(state, reply, "encode/boost", in.text.size(), [&](std::string_view) { return in.boost.write(); }, roundTrip);
+  })->Unit(unit);
+  benchmark::RegisterBenchmark(("encode/nlohmann/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
+    const Inputs& in = prepared();
+    measure(state, reply, "encode/nlohmann", in.text.size(), [&](std::string_view) { return in.nlohmann.write(); },
+            roundTrip);
+  })->Unit(unit);
+}
+
+// Peak memory: one decode on a fresh thread (so per-thread parser buffers start empty), counted by
+// operator new and by the process's resident set. Reported relative to the reply's size: the peak while
+// decoding, what the result holds, and what the decoder still keeps for the thread once the result is
+// gone and the thread has decoded a small reply. Allocated bytes overstate what a parser's large, mostly untouched buffers cost; the
+// resident peak shows what the machine gave.
+template <class Decode>
+void registerMemory(const std::string& variant, const Reply& reply, const Reply& small, Decode decode) {
+  benchmark::RegisterBenchmark(("memory/" + variant + "/" + reply.name).c_str(), [&reply, &small, decode](benchmark::State& state) {
+    memory::Usage during, atRest, after;
+    std::int64_t residentBefore = 0, residentPeak = 0;
+    for (auto _ : state) {
+      std::thread([&] {
+        memory::resetResidentPeak();
+        residentBefore = memory::resident();
+        memory::start();
+        {
+          auto result = decode(reply.json);
+          during = memory::usage();
+          residentPeak = memory::residentPeak();
+        }
+        atRest = memory::usage();
+        // What stays allocated once the thread has decoded a small reply after the large one.
+        benchmark::DoNotOptimize(decode(small.json));
+        after = memory::usage();
+        memory::stop();
+      }).join();
+    }
+    const auto size = static_cast<double>(reply.json.size());
+    state.counters["peak_x"] = static_cast<double>(during.peak) / size;
+    state.counters["result_x"] = static_cast<double>(during.now - atRest.now) / size;
+    state.counters["kept_x"] = static_cast<double>(after.now) / size;
+    state.counters["resident_peak_x"] = static_cast<double>(residentPeak - residentBefore) / size;
+    state.counters["bytes"] = size;
+  })->Iterations(1)->Repetitions(1)->Unit(benchmark::kMillisecond);
+}
+
+template <class T, class Message>
+void registerMemoryAll(const Reply& reply, const Reply& small) {
+  registerMemory("qb", reply, small, [](std::string_view json) { return JSONDecoder().decode<T>(json); });
+  registerMemory("handwritten", reply, small, peers::decodeHandWritten<T>);
+  registerMemory("boost", reply, small, peers::decodeBoost<T>);
+  registerMemory("nlohmann", reply, small, peers::decodeNlohmann<T>);
+  registerMemory("rapidjson", reply, small, peers::decodeRapidjson<T>);
+  registerMemory("dict_qb", reply, small, [](std::string_view json) { return decodeDictionary<T, Message>(json, {}); });
+  registerMemory("dict_qb_monotonic", reply, small,
+                 [](std::string_view json) { return decodeDictionary<T, Message>(json, monotonic()); });
+}
+
+// What the benchmarks do with each shape of reply: a domain adds its shapes here.
+struct Shape {
+  std::string_view name;
+  // `smallest` is the smallest reply of the same shape when `reply` is the corpus's largest, else null.
+  void (*registerAll)(const Reply& reply, const Reply* smallest);
+};
+
+template <class T, class Message, auto count, auto expected>
+Shape shape(std::string_view name) {
+  return {name, [](const Reply& reply, const Reply* smallest) {
+            registerTyped<T>(reply);
+            registerDictionary<T, Message>(reply, count, expected);
+            if (reply.large) registerEncoding<T>(reply);
+            if (smallest) registerMemoryAll<T, Message>(reply, *smallest);
+          }};
+}
+
+std::size_t faqCount(const QBUserGetFaqMessage& m) { return m.faqs() ? m.faqs()->size() : 0; }
+std::size_t faqRecords(const UserGetFaqResponse& r) { return r.faqs.size(); }
+std::size_t userCount(const QBBenchUserListMessage& m) { return m.users() ? m.users()->size() : 0; }
+std::size_t userRecords(const UserList& r) { return r.users.size(); }
+std::size_t configCount(const QBUserGetConfigMessage& m) { return m.config() ? 1 : 0; }
+std::size_t initialiseCount(const QBUserInitialiseMessage& m) { return m.config() && m.user() ? 1 : 0; }
+template <class T>
+std::size_t one(const T&) {
+  return 1;
+}
+
+const Shape kShapes[] = {
+    shape<UserGetFaqResponse, QBUserGetFaqMessage, faqCount, faqRecords>("get_faq"),
+    shape<UserList, QBBenchUserListMessage, userCount, userRecords>("user_list"),
+    shape<UserGetConfigResponse, QBUserGetConfigMessage, configCount, one<UserGetConfigResponse>>("get_config"),
+    shape<UserInitialiseResponse, QBUserInitialiseMessage, initialiseCount, one<UserInitialiseResponse>>("initialise"),
+};
+
+void registerAll() {
+  const Reply* largest = nullptr;
+  for (const Reply& reply : corpus()) {
+    if (!largest || reply.json.size() > largest->json.size()) largest = &reply;
+  }
+  const Reply* smallest = largest;
+  for (const Reply& reply : corpus()) {
+    if (reply.shape == largest->shape && reply.json.size() < smallest->json.size()) smallest = &reply;
+  }
+  for (const Reply& reply : corpus()) {
+    bool known = false;
+    for (const Shape& shape : kShapes) {
+      if (shape.name != reply.shape) continue;
+      shape.registerAll(reply, &reply == largest ? smallest : nullptr);
+      known = true;
+    }
+    if (!known) throw std::logic_error("no benchmarks for replies of shape " + reply.shape);
+  }
+}
+
+// --dump-corpus=DIR writes every reply to DIR/<name>.json, for profilers and other tools.
+bool dumpCorpus(int argc, char** argv) {
+  constexpr std::string_view kFlag = "--dump-corpus=";
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view arg = argv[i];
+    if (arg.substr(0, kFlag.size()) != kFlag) continue;
+    const std::filesystem::path dir(arg.substr(kFlag.size()));
+    std::filesystem::create_directories(dir);
+    for (const Reply& reply : corpus()) {
+      std::string file = reply.name;
+      for (char& c : file) c = c == '/' ? '_' : c;
+      std::ofstream(dir / (file + ".json"), std::ios::binary) << reply.json;
+      std::cout << (dir / (file + ".json")).string() << "  " << reply.json.size() << " bytes\n";
+    }
+    return true;
+  }
+  return false;
+}
+
+// --profile=NAME[:TIMES] runs one benchmark's work TIMES times (default 20) without the harness, for
+// `perf record` or `valgrind --tool=callgrind`.
+bool profile(int argc, char** argv) {
+  constexpr std::string_view kFlag = "--profile=";
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view arg = argv[i];
+    if (arg.substr(0, kFlag.size()) != kFlag) continue;
+    std::string name(arg.substr(kFlag.size()));
+    int times = 20;
+    if (const auto colon = name.rfind(':'); colon != std::string::npos) {
+      times = std::stoi(name.substr(colon + 1));
+      name.resize(colon);
+    }
+    registerAll();
+    const auto target = profileTargets().find(name);
+    if (target == profileTargets().end()) throw std::invalid_argument("nothing to profile called " + name);
+    for (int n = 0; n < times; ++n) target->second();
+    return true;
+  }
+  return false;
+}
+
+}  // namespace
+}  // namespace qb::bench
+
+int main(int argc, char** argv) {
+  if (qb::bench::dumpCorpus(argc, argv) || qb::bench::profile(argc, argv)) return 0;
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  qb::bench::registerAll();
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}

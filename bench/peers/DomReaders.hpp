@@ -1,0 +1,130 @@
+// Reading the records from a parsed DOM, the way a user of a DOM library reads them: look each member
+// up by key, check its kind, copy it out. Written once over an adapter `Dom` per library that offers
+//   Value; find(object, key) -> const Value* (nullptr when absent; throws when not an object);
+//   isNull; readString(v, std::string&); readInt64; readBool; readDouble; size(array);
+//   forEachElement(array, f(const Value&)); forEachMember(object, f(std::string_view, const Value&));
+//   toJson(v) -> qb::JsonValue.
+#pragma once
+
+#include "peers/Peers.hpp"
+
+namespace qb::bench::peers {
+
+template <class Dom>
+struct DomReader {
+  using V = typename Dom::Value;
+
+  static void read(const V& v, std::string& out) { Dom::readString(v, out); }
+  static void read(const V& v, std::int64_t& out) { out = Dom::readInt64(v); }
+  static void read(const V& v, bool& out) { out = Dom::readBool(v); }
+  static void read(const V& v, Date& out) {
+    auto date = dateFromNumber(Dom::readDouble(v), DateStrategy::secondsSince1970);
+    if (!date) fail("not a date");
+    out = *date;
+  }
+  template <APIEnumrable E>
+  static void read(const V& v, E& out) {
+    out = enumFromDecoded<E>(Dom::readInt64(v));
+  }
+  static void read(const V& v, AnyCodable& out) { out.value = Dom::toJson(v); }
+  template <class T>
+  static void read(const V& v, std::vector<T>& out) {
+    out.clear();
+    out.reserve(Dom::size(v));
+    Dom::forEachElement(v, [&](const V& element) { read(element, out.emplace_back()); });
+  }
+  static void read(const V& v, std::map<std::string, AnyCodable>& out) {
+    out.clear();
+    Dom::forEachMember(v, [&](std::string_view key, const V& element) { read(element, out[std::string(key)]); });
+  }
+
+  // A member: a required one must be present and not null; an optional one may be either.
+  template <class T>
+  static void member(const V& object, std::string_view key, T& out) {
+    const V* v = Dom::find(object, key);
+    if constexpr (IsOptional<T>::value) {
+      if (!v || Dom::isNull(*v)) {
+        out.reset();
+      } else {
+        read(*v, out.emplace());
+      }
+    } else {
+      if (!v || Dom::isNull(*v)) fail(key);
+      read(*v, out);
+    }
+  }
+
+  static void read(const V& v, FaqModel& out) {
+    member(v, "title", out.title);
+    member(v, "content", out.content);
+    member(v, "faq_type", out.faqType);
+  }
+  static void read(const V& v, UserGetFaqResponse& out) { member(v, "faqs", out.faqs); }
+  static void read(const V& v, UserModel& out) {
+    member(v, "user_id", out.userId);
+    member(v, "uuid", out.uuid);
+    member(v, "nickname", out.nickname);
+    member(v, "avatar_url", out.avatarUrl);
+    member(v, "gender", out.gender);
+    member(v, "email", out.email);
+    member(v, "created_at", out.createdAt);
+    member(v, "guest_user", out.guestUser);
+    member(v, "vip", out.vip);
+    member(v, "auto_renew_status", out.autoRenewStatus);
+    member(v, "expert_consultation_count", out.expertConsultationCount);
+    member(v, "app_init_version", out.appInitVersion);
+    member(v, "properties", out.properties);
+  }
+  static void read(const V& v, UserList& out) { member(v, "users", out.users); }
+  static void read(const V& v, UserAdditionalDataModel& out) {
+    member(v, "exist_user", out.existUser);
+    member(v, "today_user", out.todayUser);
+    member(v, "is_vip_in_history", out.isVipInHistory);
+    member(v, "email_notification_enabled", out.emailNotificationEnabled);
+    member(v, "grows_price_label", out.growsPriceLabel);
+  }
+  static void read(const V& v, AutoUpdateModel& out) {
+    member(v, "has_update", out.hasUpdate);
+    member(v, "force_update", out.forceUpdate);
+  }
+  static void read(const V& v, LegalConfigModel& out) {
+    member(v, "agreement_url", out.agreementUrl);
+    member(v, "agreement_version", out.agreementVersion);
+    member(v, "next_agreement_url", out.nextAgreementUrl);
+    member(v, "next_agreement_version", out.nextAgreementVersion);
+    member(v, "next_agreement_available_at", out.nextAgreementAvailableAt);
+    member(v, "third_party_notices_url", out.thirdPartyNoticesUrl);
+    member(v, "privacy_policy_url", out.privacyPolicyUrl);
+    member(v, "data_management_url", out.dataManagementUrl);
+    member(v, "privacy_policy_version", out.privacyPolicyVersion);
+  }
+  static void read(const V& v, ClientConfigModel& out) {
+    member(v, "auto_update", out.autoUpdate);
+    member(v, "expert_default_count", out.expertDefaultCount);
+    member(v, "share_app_url", out.shareAppUrl);
+    member(v, "timestamp", out.timestamp);
+    member(v, "legal_config", out.legalConfig);
+  }
+  static void read(const V& v, UserGetConfigResponse& out) {
+    member(v, "config", out.config);
+    member(v, "other_configs", out.otherConfigs);
+  }
+  static void read(const V& v, UserInitialiseResponse& out) {
+    member(v, "user", out.user);
+    member(v, "user_additional_data", out.userAdditionalData);
+    member(v, "access_token", out.accessToken);
+    member(v, "config", out.config);
+    member(v, "other_configs", out.otherConfigs);
+    member(v, "app_server_time", out.appServerTime);
+    member(v, "country", out.country);
+  }
+
+  template <class T>
+  static T decode(const V& root) {
+    T out{};
+    read(root, out);
+    return out;
+  }
+};
+
+}  // namespace qb::bench::peers
