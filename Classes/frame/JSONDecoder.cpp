@@ -15,6 +15,9 @@ simdjson::ondemand::document& openDocument(std::string_view json) {
     if (buffer.capacity() > kLarge) std::string().swap(buffer);
     if (parser.capacity() > kLarge) parser = simdjson::ondemand::parser();
   }
+  // Sized once for the text and its padding: appending the padding to a buffer sized for the text
+  // alone would copy the whole reply again into one twice as large.
+  buffer.reserve(json.size() + simdjson::SIMDJSON_PADDING);
   buffer.assign(json);
   buffer.append(simdjson::SIMDJSON_PADDING, '\0');
   simdjson::padded_string_view padded(buffer.data(), json.size(), buffer.size());
