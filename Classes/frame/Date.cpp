@@ -6,10 +6,6 @@
 namespace qb {
 namespace {
 
-// Far enough for any real date (the year 5138), near enough that seconds, milliseconds and the double
-// between them convert back and forth exactly.
-constexpr double kLimitSeconds = 1e11;
-
 bool digits(std::string_view text, std::size_t at, std::size_t count, int& out) noexcept {
   if (at + count > text.size()) return false;
   int value = 0;
@@ -24,9 +20,12 @@ bool digits(std::string_view text, std::size_t at, std::size_t count, int& out) 
 }  // namespace
 
 std::optional<Date> dateFromNumber(double amount, DateStrategy strategy) noexcept {
-  const double seconds = strategy == DateStrategy::millisecondsSince1970 ? amount / 1000.0 : amount;
-  if (!std::isfinite(seconds) || std::fabs(seconds) > kLimitSeconds) return std::nullopt;
-  return Date(std::chrono::milliseconds(std::llround(seconds * 1000.0)));
+  const double ms = strategy == DateStrategy::millisecondsSince1970 ? amount : amount * 1000.0;
+  // Checked before rounding, which is only defined for numbers that fit.
+  if (!(std::fabs(ms) < 1e15)) return std::nullopt;
+  const Date date{std::chrono::milliseconds(std::llround(ms))};
+  if (!isCodableDate(date)) return std::nullopt;
+  return date;
 }
 
 double dateToNumber(Date date, DateStrategy strategy) noexcept {
@@ -94,7 +93,9 @@ std::optional<Date> parseIso8601(std::string_view text) noexcept {
     return std::nullopt;
   }
   if (at != text.size()) return std::nullopt;
-  return Date(sys_days(ymd)) + hours(h) + minutes(mi) + seconds(s) + milliseconds(ms) - minutes(offsetMinutes);
+  const Date date = Date(sys_days(ymd)) + hours(h) + minutes(mi) + seconds(s) + milliseconds(ms) - minutes(offsetMinutes);
+  if (!isCodableDate(date)) return std::nullopt;
+  return date;
 }
 
 }  // namespace qb

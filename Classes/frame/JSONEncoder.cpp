@@ -1,6 +1,6 @@
 #include "frame/JSONEncoder.hpp"
 
-#include <simdjson.h>
+#include "frame/detail/Simdjson.hpp"
 
 
 namespace qb::detail {

@@ -1,6 +1,6 @@
 #include "frame/Json.hpp"
 
-#include <simdjson.h>
+#include "frame/detail/Simdjson.hpp"
 
 #include <charconv>
 #include <cmath>

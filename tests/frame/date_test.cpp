@@ -40,6 +40,11 @@ TEST(Date, NumbersConvertByStrategyAndRejectTheUnrepresentable) {
   EXPECT_EQ(dateToNumber(Date(milliseconds(1500)), DateStrategy::secondsSince1970), 1.5);
   EXPECT_FALSE(dateFromNumber(1e300, DateStrategy::secondsSince1970));
   EXPECT_FALSE(dateFromNumber(std::nan(""), DateStrategy::millisecondsSince1970));
+  // Only the years 0000 to 9999, which every strategy writes and reads back exactly.
+  EXPECT_TRUE(dateFromNumber(253402300799.999, DateStrategy::secondsSince1970));
+  EXPECT_FALSE(dateFromNumber(253402300800.0, DateStrategy::secondsSince1970));
+  EXPECT_TRUE(parseIso8601("0000-01-01T00:00:00Z"));
+  EXPECT_FALSE(parseIso8601("0000-01-01T00:00:00+01:00"));
 }
 
 }  // namespace

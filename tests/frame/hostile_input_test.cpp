@@ -89,7 +89,11 @@ TEST(HostileInput, NumbersAtTheLimits) {
       EXPECT_THROW(parseJsonMap(faq), DecodingError);
     }
   }
+  // Doubles are read by the number's kind, the same way on the fast and the exact path.
   EXPECT_TRUE(std::signbit(JSONDecoder().decode<std::vector<double>>("[-0.0]")[0]));
+  EXPECT_FALSE(std::signbit(JSONDecoder().decode<std::vector<double>>("[-0]")[0]));
+  EXPECT_EQ(JSONDecoder().decode<std::vector<double>>("[18446744073709551615]")[0], 18446744073709551615.0);
+  EXPECT_THROW(JSONDecoder().decode<std::vector<double>>("[18446744073709551616]"), DecodingError);
 }
 
 TEST(HostileInput, DuplicateKeysKeepTheLastValueInBothFaces) {

@@ -68,7 +68,13 @@ std::vector<std::shared_ptr<M>> readModelList(const JsonValue& value, std::strin
   const JsonList& list = asList(value, key);
   std::vector<std::shared_ptr<M>> models;
   models.reserve(list.size());
-  for (const JsonValue& element : list) models.push_back(M::initWithJsonObject(asMap(element, key)));
+  for (const JsonValue& element : list) {
+    // The error names the element: "faqs[2]".
+    if (!element.is_object()) {
+      throwNotA("an object", std::string(key) + '[' + std::to_string(models.size()) + ']', element);
+    }
+    models.push_back(M::initWithJsonObject(element.get_object()));
+  }
   return models;
 }
 

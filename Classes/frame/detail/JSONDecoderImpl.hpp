@@ -2,7 +2,7 @@
 // their record (QB_TYPED_DEFINE), because it brings in the parser's header.
 #pragma once
 
-#include <simdjson.h>
+#include "frame/detail/Simdjson.hpp"
 
 #include <cstring>
 
@@ -66,9 +66,16 @@ class StreamNode {
     return i;
   }
   double readDouble() {
-    double d;
-    if (value_.get_double().get(d)) throwStreamFailure();
-    return d;
+    // By the number's kind, as the full parse reads it: an integer past 64 bits is refused, not rounded,
+    // and "-0" is the integer 0.
+    simdjson::ondemand::number number;
+    if (value_.get_number().get(number)) throwStreamFailure();
+    switch (number.get_number_type()) {
+      case simdjson::ondemand::number_type::signed_integer: return static_cast<double>(number.get_int64());
+      case simdjson::ondemand::number_type::unsigned_integer: return static_cast<double>(number.get_uint64());
+      case simdjson::ondemand::number_type::floating_point_number: return number.get_double();
+    }
+    throwStreamFailure();
   }
   std::string_view readString() {
     std::string_view s;
