@@ -1,8 +1,8 @@
 # Thin wrapper over the CMake presets. `make demo` and `make test` are the two set-up commands.
 SHELL := /bin/bash
 JOBS ?= $(shell nproc)
-# The main job; the command-line tool replaces the example once it exists.
-DEMO_CMD ?= build/default/examples/get_config
+# The main job: a scripted session through both faces against the built-in mock service.
+DEMO_CMD ?= build/default/cli/qbapi demo
 
 DEBIAN_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev ccache pkg-config python3 \
   libboost-json1.81-dev libsimdjson-dev libgtest-dev libgmock-dev libbenchmark-dev \

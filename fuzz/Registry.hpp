@@ -16,16 +16,16 @@ struct TypeList {
   static constexpr std::size_t size = sizeof...(T);
 };
 
-using DictModels = TypeList<QBAPIUser, QBAPIUserAdditionalData, QBAPILoginInfo, QBAPILoginMethod,
-                            QBAPIThirdPartyUserInfo, QBAPIVipInfo, QBAPIDeviceInfo, QBAPIDeviceDetailInfo,
-                            QBAPIIosDeviceData, QBAPIAndroidDeviceData, QBAPIClientConfig, QBAPIAutoUpdate,
-                            QBAPILegalConfig, QBAPIFaq>;
+using DictModels =
+    TypeList<QBAPIUser, QBAPIUserAdditionalData, QBAPILoginInfo, QBAPILoginMethod, QBAPIThirdPartyUserInfo,
+             QBAPIVipInfo, QBAPIDeviceInfo, QBAPIDeviceDetailInfo, QBAPIIosDeviceData, QBAPIAndroidDeviceData,
+             QBAPIClientConfig, QBAPIAutoUpdate, QBAPILegalConfig, QBAPIFaq>;
 
 using DictMessages =
     TypeList<QBUserInitialiseMessage, QBUserLoginOrCreateMessage, QBUserGetVerifyCodeMessage,
              QBUserCheckVerifyCodeMessage, QBUserResetPasswordAndLoginMessage, QBUserDeleteAccountMessage,
-             QBUserGetUserMessage, QBUserUpdateMessage, QBUserUpdateAdditionalDataMessage, QBUserUpdateDeviceInfoMessage,
-             QBUserUpdateUserConversionMessage, QBUserUpdateUserDevicePushInfoMessage,
+             QBUserGetUserMessage, QBUserUpdateMessage, QBUserUpdateAdditionalDataMessage,
+             QBUserUpdateDeviceInfoMessage, QBUserUpdateUserConversionMessage, QBUserUpdateUserDevicePushInfoMessage,
              QBUserUpdateUserPropertiesMessage, QBUserUpdateUserTimeZoneMessage, QBUserGetConfigMessage,
              QBUserGetFaqMessage>;
 

@@ -4,8 +4,8 @@
 // back exactly, is a finding.
 #include <cstdlib>
 
-#include "fuzz/Registry.hpp"
 #include "frame/detail/DictEngine.hpp"
+#include "fuzz/Registry.hpp"
 
 namespace {
 

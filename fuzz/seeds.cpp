@@ -13,10 +13,24 @@ int main(int argc, char** argv) {
     return 2;
   }
   using namespace qb::fixtures;
-  const std::string replies[] = {kUser,   kUserAdditional, kLoginInfo,    kLoginMethod, kThirdParty,
-                                 kVipInfo, kDevice,        kDeviceDetail, kIos,         kAndroid,
-                                 kClientConfig, kAutoUpdate, kLegal,      kFaq,         kInitialiseReply,
-                                 kLoginReply, R"({"faqs": [)" + kFaq + "]}", R"({"apple_user_id": "a"})"};
+  const std::string replies[] = {kUser,
+                                 kUserAdditional,
+                                 kLoginInfo,
+                                 kLoginMethod,
+                                 kThirdParty,
+                                 kVipInfo,
+                                 kDevice,
+                                 kDeviceDetail,
+                                 kIos,
+                                 kAndroid,
+                                 kClientConfig,
+                                 kAutoUpdate,
+                                 kLegal,
+                                 kFaq,
+                                 kInitialiseReply,
+                                 kLoginReply,
+                                 R"({"faqs": [)" + kFaq + "]}",
+                                 R"({"apple_user_id": "a"})"};
   const std::filesystem::path root(argv[1]);
   for (const char* target : {"fuzz_dict", "fuzz_typed"}) {
     std::filesystem::create_directories(root / target);

@@ -27,15 +27,14 @@ TEST(Date, Iso8601ReadsOffsetsAndFractionsAndWritesUtc) {
     EXPECT_EQ(parseIso8601(formatIso8601(*date)), date);
   }
   EXPECT_EQ(formatIso8601(Date(milliseconds(1700000000250))), "2023-11-14T22:13:20.250Z");
-  for (const char* bad : {"", "2023-11-14", "2023-13-01T00:00:00Z", "2023-02-30T00:00:00Z",
-                          "2023-11-14T22:13:20", "2023-11-14T22:13:20Zjunk", "2023-11-14T22:13:20."}) {
+  for (const char* bad : {"", "2023-11-14", "2023-13-01T00:00:00Z", "2023-02-30T00:00:00Z", "2023-11-14T22:13:20",
+                          "2023-11-14T22:13:20Zjunk", "2023-11-14T22:13:20."}) {
     EXPECT_FALSE(parseIso8601(bad)) << bad;
   }
 }
 
 TEST(Date, NumbersConvertByStrategyAndRejectTheUnrepresentable) {
-  EXPECT_EQ(dateFromNumber(1700000000.25, DateStrategy::secondsSince1970)->time_since_epoch().count(),
-            1700000000250);
+  EXPECT_EQ(dateFromNumber(1700000000.25, DateStrategy::secondsSince1970)->time_since_epoch().count(), 1700000000250);
   EXPECT_EQ(dateFromNumber(1700000000250, DateStrategy::millisecondsSince1970)->time_since_epoch().count(),
             1700000000250);
   EXPECT_EQ(dateToNumber(Date(milliseconds(1500)), DateStrategy::secondsSince1970), 1.5);

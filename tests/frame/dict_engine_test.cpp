@@ -152,8 +152,8 @@ TEST(DictEngine, GetConfigMessageDescribesTheCall) {
 
 TEST(DictEngine, ParseResponseFillsKeepsAndClearsResults) {
   auto message = QBUserGetConfigMessage::initWithData(1, JsonValue("DE"));
-  QBMessageBase& same = message->parseResponse(
-      parseJsonMap(std::string(R"({"config": )") + kConfig + R"(, "other_configs": {"a": [1, 18446744073709551615]}})"));
+  QBMessageBase& same = message->parseResponse(parseJsonMap(std::string(R"({"config": )") + kConfig +
+                                                            R"(, "other_configs": {"a": [1, 18446744073709551615]}})"));
   EXPECT_EQ(&same, message.get());
   ASSERT_TRUE(message->config());
   EXPECT_EQ(message->config()->legalConfig()->privacyPolicyVersion()->as_int64(), 5);

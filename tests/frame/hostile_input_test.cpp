@@ -28,7 +28,7 @@ TEST(HostileInput, MalformedRepliesAreDataCorruptedInBothFaces) {
       deep,
       R"({"faqs": )" + deep + "}",
       "{\"faqs\": [{\"title\": \"\xff\", \"content\": \"c\", \"faq_type\": 1}]}",  // invalid UTF-8
-      R"({"faqs": [{"title": "\ud800", "content": "c", "faq_type": 1}]})",     // lone surrogate escape
+      R"({"faqs": [{"title": "\ud800", "content": "c", "faq_type": 1}]})",         // lone surrogate escape
       R"({"faqs": [{"title": "t", "content": "c", "faq_type": 1e400}]})",
       R"({"faqs": [)",
       R"({"faqs": []} {})",

@@ -11,8 +11,8 @@ namespace qb {
 namespace {
 
 TEST(Json, NumbersKeepTheirKindAndExactValue) {
-  const JsonValue v = parseJson(
-      R"([9007199254740993, -9223372036854775808, 18446744073709551615, 0.1, 85.9379821058858, -0.0, 2.0])");
+  const JsonValue v =
+      parseJson(R"([9007199254740993, -9223372036854775808, 18446744073709551615, 0.1, 85.9379821058858, -0.0, 2.0])");
   const auto& a = v.as_array();
   EXPECT_EQ(a[0].as_int64(), 9007199254740993);
   EXPECT_EQ(a[1].as_int64(), INT64_MIN);
@@ -51,14 +51,13 @@ TEST(Json, BadInputIsDataCorrupted) {
   EXPECT_THROW(parseJsonMap("[1]"), DecodingError);
 }
 
-TEST(Json, DuplicateKeysKeepTheLastValue) {
-  EXPECT_EQ(parseJsonMap(R"({"a":1,"a":2})").at("a").as_int64(), 2);
-}
+TEST(Json, DuplicateKeysKeepTheLastValue) { EXPECT_EQ(parseJsonMap(R"({"a":1,"a":2})").at("a").as_int64(), 2); }
 
 TEST(Json, PrettyTextIsIndentedAndRefusesWhatIsNotJson) {
   const JsonValue v = parseJson(R"({"a":[1,{"b":"x\ny"}],"c":{},"d":[]})");
-  EXPECT_EQ(*toPrettyJson(v), "{\n  \"a\": [\n    1,\n    {\n      \"b\": \"x\\ny\"\n    }\n  ],\n"
-                              "  \"c\": {},\n  \"d\": []\n}");
+  EXPECT_EQ(*toPrettyJson(v),
+            "{\n  \"a\": [\n    1,\n    {\n      \"b\": \"x\\ny\"\n    }\n  ],\n"
+            "  \"c\": {},\n  \"d\": []\n}");
   EXPECT_FALSE(toPrettyJson(JsonValue(std::nan(""))));
   EXPECT_FALSE(toPrettyJson(JsonValue(INFINITY)));
   EXPECT_FALSE(toPrettyJson(JsonValue("\xc3\x28")));

@@ -103,7 +103,8 @@ TEST(TypedCodec, DecodesStraightIntoRecords) {
 
 TEST(TypedCodec, ErrorsCarryKindPathAndDescription) {
   using Kind = DecodingError::Kind;
-  const std::string head = R"({"other_configs": {}, "config": {"auto_update": {"has_update": true, "force_update": false},
+  const std::string head =
+      R"({"other_configs": {}, "config": {"auto_update": {"has_update": true, "force_update": false},
       "expert_default_count": 3, "timestamp": 1, "legal_config": {"agreement_version": 2)";
   struct Case {
     std::string json;
@@ -117,8 +118,8 @@ TEST(TypedCodec, ErrorsCarryKindPathAndDescription) {
        "config.legal_config.privacy_policy_version", "Expected Int64 value but found null instead."},
       {head + R"(, "privacy_policy_version": "5"}}})", Kind::typeMismatch, "config.legal_config.privacy_policy_version",
        "Expected to decode Int64 but found a string instead."},
-      {head + R"(, "privacy_policy_version": 1.5}}})", Kind::typeMismatch,
-       "config.legal_config.privacy_policy_version", "Expected to decode Int64 but found a number instead."},
+      {head + R"(, "privacy_policy_version": 1.5}}})", Kind::typeMismatch, "config.legal_config.privacy_policy_version",
+       "Expected to decode Int64 but found a number instead."},
       {head + R"(, "privacy_policy_version": 9223372036854775808}}})", Kind::typeMismatch,
        "config.legal_config.privacy_policy_version", "Expected to decode Int64 but found an integer instead."},
       {R"({"config": {}})", Kind::keyNotFound, "config.auto_update", "No value associated with key \"auto_update\"."},
@@ -167,13 +168,14 @@ TEST(TypedCodec, ListsCarryTheIndexInThePath) {
 }
 
 TEST(TypedCodec, RecordsSurviveEncodeDecodeUnderEveryDateStrategy) {
-  const Item item{.id = 9007199254740993,
-                  .shade = Shade::light,
-                  .tier = Tier::max,
-                  .seen = Date(std::chrono::milliseconds(1700000000250)),
-                  .tags = {"é", "quote\"back\\slash\n", ""},
-                  .weight = 0.1,
-                  .extra = std::map<std::string, AnyCodable>{{"n", {JsonValue(nullptr)}}, {"u", {JsonValue(UINT64_MAX)}}}};
+  const Item item{
+      .id = 9007199254740993,
+      .shade = Shade::light,
+      .tier = Tier::max,
+      .seen = Date(std::chrono::milliseconds(1700000000250)),
+      .tags = {"é", "quote\"back\\slash\n", ""},
+      .weight = 0.1,
+      .extra = std::map<std::string, AnyCodable>{{"n", {JsonValue(nullptr)}}, {"u", {JsonValue(UINT64_MAX)}}}};
   for (auto strategy : {DateStrategy::secondsSince1970, DateStrategy::millisecondsSince1970, DateStrategy::iso8601}) {
     JSONEncoder encoder;
     encoder.dateStrategy = strategy;
@@ -198,7 +200,10 @@ TEST(TypedCodec, AbsentOptionalsLeaveNoKeyAndUnwritableValuesThrow) {
   } cases[] = {
       {Item{.id = 1, .tier = Tier::basic, .tags = {}, .weight = std::nan("")}, "weight"},
       {Item{.id = 1, .tier = Tier::basic, .tags = {"ok", "\xff"}}, "tags[1]"},
-      {Item{.id = 1, .tier = Tier::basic, .tags = {}, .extra = std::map<std::string, AnyCodable>{{"x", {JsonValue(INFINITY)}}}},
+      {Item{.id = 1,
+            .tier = Tier::basic,
+            .tags = {},
+            .extra = std::map<std::string, AnyCodable>{{"x", {JsonValue(INFINITY)}}}},
        "extra.x"},
   };
   for (const auto& c : cases) {

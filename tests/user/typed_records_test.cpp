@@ -33,17 +33,17 @@ RecordRow row(const char* name, std::string full, std::vector<const char*> requi
 
 const std::vector<RecordRow>& rows() {
   static const std::vector<RecordRow> table{
-      row<UserModel>("User", kUser,
-                     {"user_id", "uuid", "created_at", "guest_user", "vip", "auto_renew_status",
-                      "expert_consultation_count"}),
+      row<UserModel>(
+          "User", kUser,
+          {"user_id", "uuid", "created_at", "guest_user", "vip", "auto_renew_status", "expert_consultation_count"}),
       row<UserAdditionalDataModel>("UserAdditionalData", kUserAdditional,
                                    {"exist_user", "today_user", "is_vip_in_history"}),
       row<LoginInfoModel>("LoginInfo", kLoginInfo, {"login_type", "login_key"}),
       row<LoginMethodModel>("LoginMethod", kLoginMethod, {"type", "login_name"}),
       row<ThirdPartyUserInfoModel>("ThirdPartyUserInfo", kThirdParty, {}),
-      row<VipInfoModel>("VipInfo", kVipInfo,
-                        {"user_id", "is_vip", "is_trial", "is_auto_renew", "is_vip_in_history", "is_paid_in_history",
-                         "vip_level"}),
+      row<VipInfoModel>(
+          "VipInfo", kVipInfo,
+          {"user_id", "is_vip", "is_trial", "is_auto_renew", "is_vip_in_history", "is_paid_in_history", "vip_level"}),
       row<DeviceInfoModel>("DeviceInfo", kDevice, {"device_type", "device_token"}),
       row<DeviceDetailInfoModel>("DeviceDetailInfo", kDeviceDetail,
                                  {"apps_flyer_id", "country_code", "language", "app_version"}),

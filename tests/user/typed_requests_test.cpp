@@ -19,8 +19,12 @@ struct Described {
 
 template <APIEncodableRequest R>
 Described describe(const R& request) {
-  return {request.api(),        request.methods(),    request.needAuth(),
-          request.mustAuth(),   request.forceHttps(), request.parseParamater(JSONEncoder()),
+  return {request.api(),
+          request.methods(),
+          request.needAuth(),
+          request.mustAuth(),
+          request.forceHttps(),
+          request.parseParamater(JSONEncoder()),
           request.mimeBodies().size()};
 }
 
@@ -84,9 +88,10 @@ const std::vector<RequestRow>& rows() {
       {[] { return describe(UserUpdateUserConversionRequest{.isOrganic = true}); }, "v3/user/update_user_conversion",
        "POST", true, true, R"({"is_organic":true})"},
       {[] {
-         return describe(UserUpdateUserConversionRequest{
-             .isOrganic = false, .costCentsUsd = 125, .installTime = Date(std::chrono::seconds(1700000000)),
-             .absetId = "ab"});
+         return describe(UserUpdateUserConversionRequest{.isOrganic = false,
+                                                         .costCentsUsd = 125,
+                                                         .installTime = Date(std::chrono::seconds(1700000000)),
+                                                         .absetId = "ab"});
        },
        "v3/user/update_user_conversion", "POST", true, true,
        R"({"is_organic":false,"cost_cents_usd":125,"install_time":1700000000.0,"abset_id":"ab"})"},

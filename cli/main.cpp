@@ -1,0 +1,213 @@
+// qbapi: calls any endpoint by name, lists them, and runs a scripted session against the mock service.
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "cli/Registry.hpp"
+#include "mock/Service.hpp"
+#include "user/dict/UserDict.hpp"
+#include "user/typed/UserTyped.hpp"
+
+namespace {
+
+// Exit codes.
+enum Exit { kOk = 0, kUsage = 2, kCheck = 3, kHttp = 4, kTransport = 5, kAuth = 6 };
+
+std::string pretty(const qb::JsonValue& value) { return qb::toPrettyJson(value).value_or("<not JSON>"); }
+
+qb::cli::Arguments parseArguments(const std::vector<std::string>& pairs) {
+  qb::cli::Arguments args;
+  for (const auto& pair : pairs) {
+    const auto eq = pair.find('=');
+    if (eq == std::string::npos || eq == 0) throw CLI::ValidationError("parameter", "expected key=value, got " + pair);
+    const std::string key = pair.substr(0, eq);
+    const std::string value = pair.substr(eq + 1);
+    if (value.starts_with('@')) {
+      std::ifstream file(value.substr(1), std::ios::binary);
+      if (!file) throw CLI::ValidationError("parameter", "cannot read " + value.substr(1));
+      std::vector<char> bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+      auto& out = args.files[key];
+      for (char c : bytes) out.push_back(static_cast<std::byte>(c));
+      continue;
+    }
+    try {
+      args.values[key] = qb::parseJson(value);
+    } catch (const qb::DecodingError&) {
+      args.values[key] = value;
+    }
+  }
+  return args;
+}
+
+// Runs `body` against the given base URL, or against an in-process mock service when there is none, and
+// maps every failure to its exit code.
+int withClient(const std::string& baseUrl, const std::optional<std::string>& token,
+               const std::optional<std::string>& envelope, const std::function<void(qb::host::Client&)>& body) {
+  std::optional<qb::mock::Service> mock;
+  qb::host::ClientOptions options{.baseUrl = baseUrl, .envelopeKey = envelope};
+  if (baseUrl.empty()) {
+    mock.emplace();
+    mock->start(0);
+    options.baseUrl = mock->baseUrl();
+    options.allowInsecureLoopback = true;
+  }
+  qb::host::Client client(options);
+  if (token) client.setAccessToken(*token);
+  try {
+    body(client);
+    return kOk;
+  } catch (const qb::ParameterCheckFailException& e) {
+    std::cerr << "parameter check failed: " << e.reason() << "\n";
+    return kCheck;
+  } catch (const qb::DecodingError& e) {
+    std::cerr << "the reply could not be decoded: " << e.what() << "\n";
+    return kCheck;
+  } catch (const qb::EncodingError& e) {
+    std::cerr << "the request could not be encoded: " << e.what() << "\n";
+    return kCheck;
+  } catch (const qb::JsonTypeError& e) {
+    std::cerr << "the reply has a value of the wrong kind: " << e.what() << "\n";
+    return kCheck;
+  } catch (const qb::host::AuthRequiredError& e) {
+    std::cerr << e.what() << " (pass --token)\n";
+    return kAuth;
+  } catch (const qb::host::HttpError& e) {
+    std::cerr << e.what() << "\n";
+    return kHttp;
+  } catch (const qb::host::HostError& e) {
+    std::cerr << e.what() << "\n";
+    return kTransport;
+  }
+}
+
+void listEndpoints() {
+  std::printf("%-36s %-5s %-11s %-9s %-8s\n", "endpoint", "verb", "faces", "needAuth", "mustAuth");
+  for (const auto& e : qb::cli::registry()) {
+    const char* faces = e.dictionary && e.typed ? "both" : e.dictionary ? "dictionary" : "typed";
+    std::printf("%-36s %-5s %-11s %-9s %-8s\n", std::string(e.endpoint->path).c_str(),
+                std::string(e.endpoint->upperVerb()).c_str(), faces, e.endpoint->needAuth() ? "yes" : "no",
+                e.endpoint->mustAuth() ? "yes" : "no");
+  }
+}
+
+void step(int n, std::string_view face, std::string_view what) {
+  std::cout << "\n[" << n << "] " << what << "  (" << face << " face)\n";
+}
+
+// initialise, get_config, update with an avatar, get, get_faq, delete_account, each shown as it goes.
+void demo(qb::host::Client& client) {
+  step(1, "Dictionary", "initialise: a guest account and its token");
+  auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, qb::rawValue(qb::LanguageCode::en),
+                                                        qb::JsonValue("US"));
+  std::cout << "  params " << qb::toJson(init->getParams()) << "\n";
+  client.send(*init);
+  client.setAccessToken(std::string(init->accessToken()->as_string()));
+  std::cout << "  user_id " << *init->user()->userId() << " (above 2^53, exact), guest " << *init->user()->guestUser()
+            << ", token received\n";
+
+  step(2, "Typed", "get_config");
+  const auto config = client.send(qb::UserGetConfigRequest{.languageCode = qb::LanguageCode::en, .countryCode = "US"});
+  std::cout << "  " << qb::JSONEncoder().encode(config.config) << "\n";
+
+  step(3, "Dictionary", "update: nickname, gender and an avatar as a multipart upload");
+  const std::string png = "\x89PNG\r\n\x1a\n qbapi demo avatar";
+  std::vector<std::byte> avatar;
+  for (char c : png) avatar.push_back(static_cast<std::byte>(c));
+  auto update = qb::QBUserUpdateMessage::initWithData(qb::JsonValue("Fern"), avatar, qb::rawValue(qb::Gender::female));
+  std::cout << "  params " << qb::toJson(update->getParams()) << ", " << update->mimeBodies().size()
+            << " multipart body of " << avatar.size() << " bytes\n";
+  client.send(*update);
+  std::cout << "  avatar_url " << std::string_view(update->avatarUrl()->as_string()) << "\n";
+
+  step(4, "Typed", "get: what the service stored");
+  const auto user = client.send(qb::UserGetUserRequest{});
+  std::cout << "  nickname " << user.user.nickname.value_or("?") << ", gender "
+            << qb::caseName(user.user.gender.value_or(qb::Gender::unknown)) << ", avatar "
+            << user.user.avatarUrl.value_or("?") << "\n";
+  const auto stored =
+      qb::host::makeCurlTransport()->send(qb::host::HttpRequest{.method = "GET", .url = *user.user.avatarUrl});
+  std::cout << "  the avatar served back is " << (stored.body == png ? "identical" : "DIFFERENT") << "\n";
+
+  step(5, "Dictionary", "get_faq");
+  auto faq =
+      qb::QBUserGetFaqMessage::initWithData(qb::rawValue(qb::LanguageCode::en), qb::rawValue(qb::DeviceType::ios));
+  client.send(*faq);
+  const auto faqs = faq->faqs();
+  for (const auto& entry : *faqs) std::cout << "  - " << std::string_view(entry->title()->as_string()) << "\n";
+
+  step(6, "Typed", "delete_account");
+  client.send(qb::UserDeleteAccountRequest{});
+  std::cout << "  deleted\n";
+  try {
+    client.send(qb::UserGetUserRequest{});
+  } catch (const qb::host::HttpError& e) {
+    std::cout << "  get afterwards answers HTTP " << e.status() << ": the account is gone\n";
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app{"qbapi: call the service's endpoints through either face of QBComponentAPI"};
+  app.require_subcommand(1);
+  std::string baseUrl;
+  std::optional<std::string> token, envelope;
+  auto addConnection = [&](CLI::App* cmd) {
+    cmd->add_option("--base-url", baseUrl, "service URL; without it an in-process mock service answers");
+    cmd->add_option("--token", token, "access token for endpoints that need a session");
+    cmd->add_option("--envelope", envelope, "key under which replies carry their result");
+  };
+
+  app.add_subcommand("endpoints", "list every endpoint with its verb, faces and flags");
+  CLI::App* call = app.add_subcommand("call", "call one endpoint and print the decoded reply");
+  std::string name, face = "dict";
+  std::vector<std::string> params;
+  call->add_option("endpoint", name, "e.g. user/get_config")->required();
+  call->add_option("params", params,
+                   "key=value pairs; values are JSON when they parse, text otherwise; key=@file uploads");
+  call->add_option("--face", face, "dict or typed")->check(CLI::IsMember({"dict", "typed"}));
+  addConnection(call);
+  CLI::App* demoCmd = app.add_subcommand("demo", "a scripted session against the mock service");
+  addConnection(demoCmd);
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& e) {
+    const int code = app.exit(e);
+    return code == 0 ? kOk : kUsage;
+  }
+
+  if (app.got_subcommand("endpoints")) {
+    listEndpoints();
+    return kOk;
+  }
+  if (app.got_subcommand("demo")) return withClient(baseUrl, token, envelope, demo);
+
+  const qb::cli::Entry* entry = qb::cli::findEntry(name);
+  if (!entry) {
+    std::cerr << "unknown endpoint " << name << " (see qbapi endpoints)\n";
+    return kUsage;
+  }
+  const auto& send = face == "typed" ? entry->typed : entry->dictionary;
+  if (!send) {
+    std::cerr << name << " has no " << face << " face\n";
+    return kUsage;
+  }
+  qb::cli::Arguments args;
+  try {
+    args = parseArguments(params);
+  } catch (const CLI::Error& e) {
+    std::cerr << e.what() << "\n";
+    return kUsage;
+  }
+  return withClient(baseUrl, token, envelope, [&](qb::host::Client& client) {
+    // Without a service of its own the tool opens a session on the mock first, so that calls needing one work.
+    if (baseUrl.empty() && !token && entry->endpoint->needAuth()) {
+      auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
+      client.send(*init);
+      client.setAccessToken(std::string(init->accessToken()->as_string()));
+    }
+    std::cout << pretty(send(client, args)) << "\n";
+  });
+}

@@ -1,0 +1,183 @@
+#include "host/Client.hpp"
+
+#include <random>
+#include <thread>
+
+namespace qb::host {
+namespace {
+
+std::string percentEncode(std::string_view text) {
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  std::string out;
+  out.reserve(text.size());
+  for (unsigned char c : text) {
+    if (std::isalnum(c) || c == '-' || c == '_' || c == '.' || c == '~') {
+      out += static_cast<char>(c);
+    } else {
+      out += '%';
+      out += kHex[c >> 4];
+      out += kHex[c & 0xF];
+    }
+  }
+  return out;
+}
+
+std::string formEncode(const JsonMap& params) {
+  std::string out;
+  for (const auto& member : params) {
+    if (!out.empty()) out += '&';
+    out += percentEncode(member.key());
+    out += '=';
+    out += percentEncode(parameterText(member.value()));
+  }
+  return out;
+}
+
+bool isLoopbackHost(std::string_view host) {
+  return host == "localhost" || host == "[::1]" || host.starts_with("127.");
+}
+
+// The host part of "scheme://host[:port]/..." (brackets kept for IPv6).
+std::string_view hostOf(std::string_view url) {
+  const auto start = url.find("://");
+  if (start == std::string_view::npos) return {};
+  std::string_view rest = url.substr(start + 3);
+  rest = rest.substr(0, rest.find_first_of("/?#"));
+  if (const auto at = rest.rfind('@'); at != std::string_view::npos) rest = rest.substr(at + 1);
+  if (rest.starts_with('[')) return rest.substr(0, rest.find(']') + 1);
+  return rest.substr(0, rest.find(':'));
+}
+
+bool retryableStatus(long status) { return status == 429 || status == 502 || status == 503 || status == 504; }
+
+}  // namespace
+
+HttpError::HttpError(long status, std::string body)
+    : HostError("HTTP status " + std::to_string(status) + ": " + body.substr(0, 512)),
+      status_(status),
+      body_(std::move(body)) {}
+
+std::string parameterText(const JsonValue& value) {
+  return value.is_string() ? std::string(value.get_string()) : toJson(value);
+}
+
+Client::Client(ClientOptions options, std::shared_ptr<Transport> transport)
+    : options_(std::move(options)), transport_(transport ? std::move(transport) : makeCurlTransport()) {}
+
+void Client::setAccessToken(std::optional<std::string> token) {
+  std::lock_guard lock(mutex_);
+  token_ = std::move(token);
+}
+
+bool Client::hasAccessToken() const {
+  std::lock_guard lock(mutex_);
+  return token_.has_value();
+}
+
+HttpRequest Client::prepare(std::string_view api, std::string_view verb, bool forceHttps, bool needAuth,
+                            bool mustAuth) const {
+  const std::string_view base = options_.baseUrl;
+  if (forceHttps && !base.starts_with("https://")) {
+    if (!(options_.allowInsecureLoopback && base.starts_with("http://") && isLoopbackHost(hostOf(base)))) {
+      throw InsecureUrlError("Refusing to send over a URL that is not https: " + std::string(base));
+    }
+  }
+  HttpRequest http;
+  http.method = verb == "get" || verb == "GET" ? "GET" : "POST";
+  http.url = std::string(base);
+  if (!http.url.empty() && http.url.back() != '/') http.url += '/';
+  http.url += api;
+  http.timeout = options_.timeout;
+  std::lock_guard lock(mutex_);
+  if (needAuth && token_) {
+    http.headers.emplace_back("Authorization", "Bearer " + *token_);
+  } else if (mustAuth) {
+    throw AuthRequiredError("\"" + std::string(api) + "\" needs a session and no access token is set");
+  }
+  return http;
+}
+
+void Client::appendQuery(HttpRequest& http, const JsonMap& params) {
+  if (params.empty()) return;
+  http.url += '?';
+  http.url += formEncode(params);
+}
+
+void Client::multipart(HttpRequest& http, const JsonMap& fields, const std::vector<Part>& parts) {
+  thread_local std::mt19937_64 random{std::random_device{}()};
+  const std::string boundary = "qb-" + std::to_string(random()) + std::to_string(random());
+  std::string& body = http.body;
+  for (const auto& member : fields) {
+    body += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + std::string(member.key()) + "\"\r\n\r\n" +
+            parameterText(member.value()) + "\r\n";
+  }
+  for (const auto& part : parts) {
+    body += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + part.field + "\"; filename=\"" +
+            part.fileName + "\"\r\nContent-Type: " + part.contentType + "\r\n\r\n";
+    body.append(reinterpret_cast<const char*>(part.data.data()), part.data.size());
+    body += "\r\n";
+  }
+  body += "--" + boundary + "--\r\n";
+  http.contentType = "multipart/form-data; boundary=" + boundary;
+}
+
+std::vector<Client::Part> Client::typedParts(const std::vector<APIMimeBody>& bodies) {
+  std::vector<Part> parts;
+  for (const auto& b : bodies) parts.push_back({b.name, b.fileName, b.contentType, b.file.data});
+  return parts;
+}
+
+std::string Client::exchange(const HttpRequest& http) {
+  // Only GET is repeated: a POST that may have reached the service is never sent twice.
+  const int attempts = http.method == "GET" ? 1 + std::max(0, options_.maxRetries) : 1;
+  thread_local std::mt19937 random{std::random_device{}()};
+  for (int attempt = 1;; ++attempt) {
+    std::optional<TransportError> failure;
+    HttpResponse response;
+    try {
+      response = transport_->send(http);
+    } catch (const TransportError& error) {
+      failure = error;
+    }
+    const bool retry = failure || retryableStatus(response.status);
+    if (!retry && response.status >= 200 && response.status < 300) return std::move(response.body);
+    if (!retry || attempt >= attempts) {
+      if (failure) throw *failure;
+      throw HttpError(response.status, std::move(response.body));
+    }
+    const auto base = options_.backoff * (1 << (attempt - 1));
+    std::uniform_real_distribution<double> jitter(0.5, 1.5);
+    std::this_thread::sleep_for(std::chrono::duration_cast<std::chrono::milliseconds>(base * jitter(random)));
+  }
+}
+
+std::string Client::payload(std::string body) const {
+  if (!options_.envelopeKey) return body;
+  const JsonMap whole = parseJsonMap(body);
+  const JsonValue* inner = whole.if_contains(*options_.envelopeKey);
+  if (!inner || !inner->is_object()) {
+    throw DecodingError(DecodingError::Kind::keyNotFound, {*options_.envelopeKey},
+                        "The reply has no object under the envelope key \"" + *options_.envelopeKey + "\".");
+  }
+  return toJson(*inner);
+}
+
+QBMessageBase& Client::send(QBMessageBase& message) {
+  HttpRequest http =
+      prepare(message.api(), message.methods().front(), message.forceHttps(), message.needAuth(), message.mustAuth());
+  const JsonMap params = message.getParams();
+  const auto bodies = message.mimeBodies();
+  if (http.method == "GET") {
+    appendQuery(http, params);
+  } else if (!bodies.empty()) {
+    std::vector<Part> parts;
+    for (const auto& b : bodies) parts.push_back({b.fieldName, b.fileName, b.contentType, b.data});
+    multipart(http, params, parts);
+  } else {
+    http.body = formEncode(params);
+    http.contentType = "application/x-www-form-urlencoded";
+  }
+  return message.parseResponse(parseJsonMap(payload(exchange(http))));
+}
+
+}  // namespace qb::host

@@ -1,0 +1,119 @@
+// qb::host::Client: sends the library's messages and requests over HTTP.
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "frame/JsonValueCodec.hpp"
+#include "frame/Protocols.hpp"
+#include "frame/QBMessageBase.hpp"
+#include "host/Transport.hpp"
+
+namespace qb::host {
+
+// Every failure of the host itself derives from HostError. ParameterCheckFailException, DecodingError,
+// EncodingError and JsonTypeError from the library reach the caller unchanged.
+class HostError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+// The service answered with a status other than 2xx.
+class HttpError : public HostError {
+ public:
+  HttpError(long status, std::string body);
+  long status() const noexcept { return status_; }
+  const std::string& body() const noexcept { return body_; }
+
+ private:
+  long status_;
+  std::string body_;
+};
+// No answer: connection refused or dropped, time-out, name resolution. Raised by transports.
+class TransportError : public HostError {
+ public:
+  using HostError::HostError;
+};
+// The endpoint insists on a session and the app has set no access token; nothing was sent.
+class AuthRequiredError : public HostError {
+ public:
+  using HostError::HostError;
+};
+// The base URL is not https (and is not loopback with insecure loopback allowed); nothing was sent.
+class InsecureUrlError : public HostError {
+ public:
+  using HostError::HostError;
+};
+
+struct ClientOptions {
+  std::string baseUrl;                 // "https://api.example.com/" (the path "v3/..." is appended)
+  bool allowInsecureLoopback = false;  // accept http:// for 127.0.0.0/8, localhost and [::1]
+  std::chrono::milliseconds timeout{15000};
+  int maxRetries = 2;                      // extra attempts for GET on transport failures and 429/502/503/504
+  std::chrono::milliseconds backoff{200};  // first retry delay; doubles each time, with ±50% jitter
+  std::optional<std::string> envelopeKey = std::nullopt;  // when replies wrap the result keys: {"data": {...}}
+};
+
+// Thread-safe: one client may serve every thread of an app; the transport shares connections.
+class Client {
+ public:
+  // Uses the libcurl transport unless one is given.
+  explicit Client(ClientOptions options, std::shared_ptr<Transport> transport = nullptr);
+
+  // The token attached to endpoints that need authentication; std::nullopt to sign out.
+  void setAccessToken(std::optional<std::string> token);
+  bool hasAccessToken() const;
+
+  // Sends a Dictionary-face message and fills it with parseResponse. Returns the message.
+  QBMessageBase& send(QBMessageBase& message);
+
+  // Sends a Typed-face request and returns its decoded response record.
+  template <APIEncodableRequest Request>
+  typename Request::Response send(const Request& request, const JSONDecoder& decoder = {}) {
+    HttpRequest http =
+        prepare(request.api(), request.methods().front(), request.forceHttps(), request.needAuth(), request.mustAuth());
+    const bool get = http.method == "GET";
+    if (get || !request.mimeBodies().empty()) {
+      const JsonValue encoded = JsonValueEncoder{.dateStrategy = decoder.dateStrategy}.encode(request);
+      if (get) {
+        appendQuery(http, encoded.as_object());
+      } else {
+        multipart(http, encoded.as_object(), typedParts(request.mimeBodies()));
+      }
+    } else {
+      http.body = request.parseParamater(JSONEncoder{.dateStrategy = decoder.dateStrategy});
+      http.contentType = "application/json";
+    }
+    const std::string reply = payload(exchange(http));
+    return Request::Response::init(std::string_view(reply), decoder);
+  }
+
+ private:
+  struct Part {
+    std::string field, fileName, contentType;
+    std::vector<std::byte> data;
+  };
+  static std::vector<Part> typedParts(const std::vector<APIMimeBody>& bodies);
+
+  HttpRequest prepare(std::string_view api, std::string_view verb, bool forceHttps, bool needAuth, bool mustAuth) const;
+  static void appendQuery(HttpRequest& http, const JsonMap& params);
+  static void multipart(HttpRequest& http, const JsonMap& fields, const std::vector<Part>& parts);
+  std::string exchange(const HttpRequest& http);
+  // The reply bytes the records read: the whole body, or the member under the envelope key.
+  std::string payload(std::string body) const;
+
+  ClientOptions options_;
+  std::shared_ptr<Transport> transport_;
+  mutable std::mutex mutex_;
+  std::optional<std::string> token_;
+};
+
+// The text a parameter travels as in a query string or form: strings as they are, anything else as JSON.
+std::string parameterText(const JsonValue& value);
+
+}  // namespace qb::host

@@ -1,0 +1,417 @@
+#include "mock/Service.hpp"
+
+#include <httplib.h>
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <random>
+#include <stdexcept>
+#include <thread>
+
+#include "frame/Json.hpp"
+#include "user/UserEndpoints.hpp"
+
+namespace qb::mock {
+namespace {
+
+// A failure answered as {"error": code, "message": text} with an HTTP status.
+struct Failure {
+  int status;
+  std::string code;
+  std::string message;
+};
+
+int hexDigit(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  return -1;
+}
+
+std::string urlDecode(std::string_view text) {
+  std::string out;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '+') {
+      out += ' ';
+    } else if (text[i] == '%' && i + 2 < text.size() && hexDigit(text[i + 1]) >= 0 && hexDigit(text[i + 2]) >= 0) {
+      out += static_cast<char>(hexDigit(text[i + 1]) * 16 + hexDigit(text[i + 2]));
+      i += 2;
+    } else {
+      out += text[i];
+    }
+  }
+  return out;
+}
+
+// A parameter value: the Dictionary face sends records as JSON text inside the form, the Typed face as
+// JSON; both become the same value here.
+JsonValue parameterValue(const std::string& text) {
+  if (!text.empty() && (text.front() == '{' || text.front() == '[')) {
+    try {
+      return parseJson(text);
+    } catch (const std::exception&) {
+    }
+  }
+  return JsonValue(text);
+}
+
+struct Upload {
+  std::string contentType;
+  std::string data;
+};
+
+// One request's parameters, whatever the encoding, plus its caller.
+struct Call {
+  JsonMap params;
+  std::map<std::string, Upload> files;
+  std::optional<std::int64_t> userId;  // from a valid bearer token
+  std::string token;
+};
+
+std::string text(const JsonMap& params, std::string_view key) {
+  const JsonValue* v = params.if_contains(key);
+  if (!v || v->is_null()) return {};
+  return v->is_string() ? std::string(v->get_string()) : toJson(*v);
+}
+
+}  // namespace
+
+struct Service::State {
+  httplib::Server server;
+  std::thread thread;
+  int port = 0;
+  std::atomic<std::uint64_t> requests{0};
+
+  std::mutex mutex;
+  std::map<std::int64_t, JsonMap> users;           // user id -> user record
+  std::map<std::int64_t, JsonMap> additional;      // user id -> additional data
+  std::map<std::string, std::int64_t> tokens;      // access token -> user id
+  std::map<std::string, std::int64_t> logins;      // "<login_type>:<login_key>" -> user id
+  std::map<std::string, std::string> passwords;    // login key -> password
+  std::map<std::string, std::string> verifyCodes;  // e-mail -> code
+  std::map<std::int64_t, Upload> avatars;          // user id -> uploaded avatar
+  std::int64_t nextUserId = 9007199254740993;      // above 2^53, as real ids may be
+  std::mt19937_64 random{20261122};
+
+  using Handler = std::function<JsonMap(Call&)>;
+  struct Route {
+    const Endpoint* endpoint;
+    std::vector<std::string> required;
+    Handler handler;
+  };
+
+  std::string newToken() { return "tok-" + std::to_string(random()); }
+
+  std::int64_t createUser(bool guest, const std::string& email) {
+    const std::int64_t id = nextUserId++;
+    JsonMap user{
+        {"user_id", id},
+        {"uuid", "uuid-" + std::to_string(id)},
+        {"gender", 2},
+        {"created_at",
+         std::chrono::duration_cast<std::chrono::seconds>(std::chrono::system_clock::now().time_since_epoch()).count()},
+        {"guest_user", guest},
+        {"vip", false},
+        {"auto_renew_status", 2},
+        {"expert_consultation_count", 0},
+        {"app_init_version", "1.0.0"},
+        {"properties", JsonMap{}}};
+    if (!email.empty()) user["email"] = email;
+    users[id] = std::move(user);
+    additional[id] = JsonMap{{"exist_user", false},
+                             {"today_user", true},
+                             {"is_vip_in_history", false},
+                             {"email_notification_enabled", true}};
+    return id;
+  }
+
+  JsonMap loginReply(std::int64_t id) {
+    const std::string token = newToken();
+    tokens[token] = id;
+    return JsonMap{{"user", users[id]}, {"user_additional_data", additional[id]}, {"access_token", token}};
+  }
+
+  static JsonMap clientConfig() {
+    return JsonMap{{"auto_update", JsonMap{{"has_update", false}, {"force_update", false}}},
+                   {"expert_default_count", 3},
+                   {"share_app_url", "https://example.invalid/app"},
+                   {"timestamp", 1700000000},
+                   {"legal_config", JsonMap{{"agreement_url", "https://example.invalid/terms"},
+                                            {"agreement_version", 4},
+                                            {"privacy_policy_url", "https://example.invalid/privacy"},
+                                            {"privacy_policy_version", 7}}}};
+  }
+
+  std::int64_t loginFor(const JsonMap& loginInfo, std::int64_t action) {
+    const std::string type = text(loginInfo, "login_type");
+    const std::string key = text(loginInfo, "login_key");
+    if (key.empty()) throw Failure{400, "invalid_parameter", "login_info.login_key is required"};
+    const std::string password = text(loginInfo, "login_password");
+    const auto found = logins.find(type + ":" + key);
+    if (found != logins.end()) {
+      if (action == 2) throw Failure{409, "account_exists", "an account already exists for this login"};
+      if (const auto pw = passwords.find(key); pw != passwords.end() && pw->second != password) {
+        throw Failure{401, "wrong_password", "the password does not match"};
+      }
+      additional[found->second]["exist_user"] = true;
+      additional[found->second]["today_user"] = false;
+      return found->second;
+    }
+    if (action == 1) throw Failure{404, "no_account", "no account exists for this login"};
+    const std::int64_t id = createUser(false, type == "3" ? key : "");
+    logins[type + ":" + key] = id;
+    if (!password.empty()) passwords[key] = password;
+    return id;
+  }
+
+  JsonMap& userOf(const Call& call) { return users.at(*call.userId); }
+
+  std::vector<Route> routes() {
+    auto login = [this](Call& call) {
+      const JsonValue& info = call.params.at("login_info");
+      if (!info.is_object()) throw Failure{400, "invalid_parameter", "login_info must be an object"};
+      return loginReply(loginFor(info.get_object(), std::atoi(text(call.params, "login_action").c_str())));
+    };
+    auto store = [this](std::string_view target) {
+      return [this, target = std::string(target)](Call& call) {
+        for (const auto& member : call.params)
+          userOf(call)["_" + target + "." + std::string(member.key())] = member.value();
+        return JsonMap{};
+      };
+    };
+    return {
+        {&user::kInitialise,
+         {"language_code", "country_code"},
+         [this](Call& call) {
+           const std::int64_t id = call.userId ? *call.userId : createUser(true, "");
+           JsonMap reply = loginReply(id);
+           reply["config"] = clientConfig();
+           reply["other_configs"] = JsonMap{{"feature_x", true}, {"rollout", 0.25}};
+           reply["app_server_time"] = 1700000000.5;
+           reply["country"] = text(call.params, "country_code");
+           return reply;
+         }},
+        {&user::kLoginOrCreate, {"login_info", "device_info"}, login},
+        {&user::kLoginOrCreateForWebsite, {"login_info", "device_info"}, login},
+        {&user::kAppleCallback,
+         {"code"},
+         [](Call& call) {
+           return JsonMap{{"apple_user_id", "apple." + text(call.params, "code")}};
+         }},
+        {&user::kGetVerifyCode,
+         {"email"},
+         [this](Call& call) {
+           verifyCodes[text(call.params, "email")] = std::to_string(100000 + random() % 900000);
+           return JsonMap{};
+         }},
+        {&user::kCheckVerifyCode,
+         {"email", "verify_code"},
+         [this](Call& call) {
+           const auto code = verifyCodes.find(text(call.params, "email"));
+           if (code == verifyCodes.end() || code->second != text(call.params, "verify_code")) {
+             throw Failure{400, "wrong_verify_code", "the verification code does not match"};
+           }
+           return JsonMap{};
+         }},
+        {&user::kResetPasswordAndLogin,
+         {"email", "verify_code", "password", "device_info"},
+         [this](Call& call) {
+           const std::string email = text(call.params, "email");
+           const auto code = verifyCodes.find(email);
+           if (code == verifyCodes.end() || code->second != text(call.params, "verify_code")) {
+             throw Failure{400, "wrong_verify_code", "the verification code does not match"};
+           }
+           verifyCodes.erase(code);
+           passwords[email] = text(call.params, "password");
+           return loginReply(
+               loginFor(JsonMap{{"login_type", 3}, {"login_key", email}, {"login_password", passwords[email]}}, 0));
+         }},
+        {&user::kDeleteAccount,
+         {},
+         [this](Call& call) {
+           const std::int64_t id = *call.userId;
+           users.erase(id);
+           additional.erase(id);
+           avatars.erase(id);
+           std::erase_if(tokens, [id](const auto& t) { return t.second == id; });
+           std::erase_if(logins, [id](const auto& l) { return l.second == id; });
+           return JsonMap{};
+         }},
+        {&user::kGetUser,
+         {},
+         [this](Call& call) {
+           JsonMap user;
+           for (const auto& member : userOf(call)) {
+             if (!member.key().starts_with("_")) user[member.key()] = member.value();
+           }
+           return JsonMap{{"user", user}, {"user_additional_data", additional[*call.userId]}};
+         }},
+        {&user::kUpdate,
+         {},
+         [this](Call& call) {
+           JsonMap& user = userOf(call);
+           if (call.params.contains("nickname")) user["nickname"] = call.params.at("nickname");
+           if (call.params.contains("gender")) user["gender"] = std::atoll(text(call.params, "gender").c_str());
+           JsonMap reply;
+           if (const auto avatar = call.files.find("avatar"); avatar != call.files.end()) {
+             avatars[*call.userId] = avatar->second;
+             user["avatar_url"] =
+                 "http://127.0.0.1:" + std::to_string(port) + "/_mock/avatars/" + std::to_string(*call.userId);
+           }
+           if (user.contains("avatar_url")) reply["avatar_url"] = user["avatar_url"];
+           return reply;
+         }},
+        {&user::kUpdateAdditionalData,
+         {},
+         [this](Call& call) {
+           for (const char* key : {"email_notification_enabled", "grows_price_label"}) {
+             if (call.params.contains(key)) additional[*call.userId][key] = call.params.at(key);
+           }
+           return JsonMap{};
+         }},
+        {&user::kUpdateDeviceInfo, {"device_info"}, store("device")},
+        {&user::kUpdateUserConversion, {"is_organic"}, store("conversion")},
+        {&user::kUpdateUserDevicePushInfo, {}, store("push")},
+        {&user::kUpdateUserProperties,
+         {"key", "value"},
+         [this](Call& call) {
+           userOf(call)["properties"].as_object()[text(call.params, "key")] = text(call.params, "value");
+           return JsonMap{};
+         }},
+        {&user::kUpdateUserTimeZone, {"time_zone"}, store("time_zone")},
+        {&user::kGetConfig,
+         {"language_code", "country_code"},
+         [](Call&) {
+           return JsonMap{{"config", clientConfig()}, {"other_configs", JsonMap{{"feature_x", true}}}};
+         }},
+        {&user::kGetFaq,
+         {"language_code", "device_type"},
+         [](Call&) {
+           JsonList faqs;
+           const char* entries[][2] = {{"How do I identify a plant?", "Take a clear photo of a leaf or flower."},
+                                       {"Can I use the app offline?", "Identification needs a connection."},
+                                       {"How do I cancel my subscription?", "In your store's account settings."}};
+           std::int64_t type = 1;
+           for (const auto& e : entries)
+             faqs.push_back(JsonMap{{"title", e[0]}, {"content", e[1]}, {"faq_type", type++}});
+           return JsonMap{{"faqs", std::move(faqs)}};
+         }},
+    };
+  }
+
+  static void answer(httplib::Response& res, int status, const JsonMap& body) {
+    res.status = status;
+    res.set_content(toJson(body), "application/json");
+  }
+
+  Call parse(const httplib::Request& req) {
+    Call call;
+    for (const auto& [key, value] : req.params) call.params[key] = parameterValue(value);
+    const std::string type = req.get_header_value("Content-Type");
+    if (req.is_multipart_form_data()) {
+      for (const auto& [name, file] : req.files) {
+        if (file.filename.empty()) {
+          call.params[name] = parameterValue(file.content);
+        } else {
+          call.files[name] = Upload{file.content_type, file.content};
+        }
+      }
+    } else if (type.starts_with("application/json") && !req.body.empty()) {
+      const JsonMap body = parseJsonMap(req.body);
+      for (const auto& member : body) call.params[member.key()] = member.value();
+    } else if (type.starts_with("application/x-www-form-urlencoded")) {
+      std::string_view rest = req.body;
+      while (!rest.empty()) {
+        const std::string_view pair = rest.substr(0, rest.find('&'));
+        rest = pair.size() < rest.size() ? rest.substr(pair.size() + 1) : std::string_view{};
+        const auto eq = pair.find('=');
+        call.params[urlDecode(pair.substr(0, eq))] =
+            parameterValue(eq == std::string_view::npos ? "" : urlDecode(pair.substr(eq + 1)));
+      }
+    }
+    const std::string auth = req.get_header_value("Authorization");
+    if (auth.starts_with("Bearer ")) call.token = auth.substr(7);
+    return call;
+  }
+
+  void install() {
+    for (Route& route : routes()) {
+      const std::string path = "/" + std::string(route.endpoint->path);
+      auto handle = [this, route](const httplib::Request& req, httplib::Response& res) {
+        ++requests;
+        try {
+          Call call = parse(req);
+          std::lock_guard lock(mutex);
+          if (!call.token.empty()) {
+            const auto found = tokens.find(call.token);
+            if (found == tokens.end()) throw Failure{401, "invalid_token", "the access token is not valid"};
+            call.userId = found->second;
+          }
+          if (route.endpoint->mustAuth() && !call.userId) {
+            throw Failure{401, "auth_required", "this endpoint needs an access token"};
+          }
+          for (const auto& key : route.required) {
+            const JsonValue* v = call.params.if_contains(key);
+            if (!v || v->is_null()) throw Failure{400, "missing_parameter", key + " is required"};
+          }
+          answer(res, 200, route.handler(call));
+        } catch (const Failure& f) {
+          answer(res, f.status, JsonMap{{"error", f.code}, {"message", f.message}});
+        } catch (const std::exception& e) {
+          answer(res, 400, JsonMap{{"error", "bad_request"}, {"message", e.what()}});
+        }
+      };
+      if (route.endpoint->verb == HttpVerb::get) {
+        server.Get(path, handle);
+      } else {
+        server.Post(path, handle);
+      }
+    }
+    server.Get(R"(/_mock/verify_codes/(.+))", [this](const httplib::Request& req, httplib::Response& res) {
+      std::lock_guard lock(mutex);
+      const auto code = verifyCodes.find(urlDecode(req.matches[1].str()));
+      if (code == verifyCodes.end())
+        return answer(res, 404, JsonMap{{"error", "no_code"}, {"message", "no code sent"}});
+      answer(res, 200, JsonMap{{"email", code->first}, {"code", code->second}});
+    });
+    server.Get(R"(/_mock/avatars/(\d+))", [this](const httplib::Request& req, httplib::Response& res) {
+      std::lock_guard lock(mutex);
+      const auto avatar = avatars.find(std::stoll(req.matches[1].str()));
+      if (avatar == avatars.end()) return answer(res, 404, JsonMap{{"error", "no_avatar"}, {"message", "no avatar"}});
+      res.set_content(avatar->second.data, avatar->second.contentType);
+    });
+    server.set_error_handler([](const httplib::Request&, httplib::Response& res) {
+      if (res.body.empty()) {
+        answer(res, res.status, JsonMap{{"error", "not_found"}, {"message", "no such endpoint"}});
+      }
+    });
+  }
+};
+
+Service::Service() : state_(std::make_unique<State>()) { state_->install(); }
+
+Service::~Service() { stop(); }
+
+int Service::start(int port) {
+  State& s = *state_;
+  s.port = port == 0 ? s.server.bind_to_any_port("127.0.0.1") : (s.server.bind_to_port("127.0.0.1", port) ? port : -1);
+  if (s.port <= 0) throw std::runtime_error("qbapi-mock could not bind 127.0.0.1:" + std::to_string(port));
+  s.thread = std::thread([&s] { s.server.listen_after_bind(); });
+  for (int i = 0; i < 5000 && !s.server.is_running(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  return s.port;
+}
+
+void Service::stop() {
+  if (state_->thread.joinable()) {
+    state_->server.stop();
+    state_->thread.join();
+  }
+}
+
+std::string Service::baseUrl() const { return "http://127.0.0.1:" + std::to_string(state_->port) + "/"; }
+
+std::uint64_t Service::requestCount() const { return state_->requests.load(); }
+
+}  // namespace qb::mock
