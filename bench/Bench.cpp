@@ -24,17 +24,16 @@
 namespace qb::bench {
 namespace {
 
-// Each benchmark checks its variant once, on its first run, before measuring.
-bool checkedOnce(const benchmark::State& state, const Reply& reply, std::string_view variant) {
-  static std::map<std::string, bool> checked;
-  (void)state;
-  return !checked.emplace(std::string(variant) + "/" + reply.name, true).second;
+// Each benchmark checks its variant once, on its first run, before measuring: true the first time.
+bool firstRun(const Reply& reply, std::string_view variant) {
+  static std::map<std::string, bool> seen;
+  return seen.emplace(std::string(variant) + "/" + reply.name, true).second;
 }
 
 template <class Decode, class Check>
 void measure(benchmark::State& state, const Reply& reply, std::string_view variant, std::size_t bytes,
              Decode decode, Check check) {
-  if (!checkedOnce(state, reply, variant)) {
+  if (firstRun(reply, variant)) {
     std::string problem;
     try {
       problem = check(decode(reply.json));

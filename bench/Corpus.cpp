@@ -2,27 +2,19 @@
 
 #include <array>
 #include <charconv>
-#include <stdexcept>
 
 namespace qb::bench {
 
 const std::vector<Reply>& corpus() {
   static const std::vector<Reply> replies = [] {
     std::vector<Reply> all;
-    // One line per domain.
+    // Each domain adds its generator to this list.
     for (auto generate : {userReplies}) {
       for (Reply& r : generate()) all.push_back(std::move(r));
     }
     return all;
   }();
   return replies;
-}
-
-const Reply& reply(std::string_view name) {
-  for (const Reply& r : corpus()) {
-    if (r.name == name) return r;
-  }
-  throw std::out_of_range("no reply named " + std::string(name) + " in the corpus");
 }
 
 JsonText& JsonText::open(char bracket) {

@@ -21,8 +21,6 @@ struct Reply {
 
 // Every reply of the corpus, generated on first use.
 const std::vector<Reply>& corpus();
-// The reply called `name`; throws std::out_of_range when there is none.
-const Reply& reply(std::string_view name);
 
 // Deterministic pseudo-random numbers (splitmix64): the same sequence with every compiler and library.
 class Rng {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include <boost/json/monotonic_resource.hpp>
+#include <boost/json/storage_ptr.hpp>
 
 #include "Records.hpp"
 
