@@ -1,6 +1,6 @@
 # Installs the current build into a scratch prefix, then configures, builds and runs a small consumer
 # that finds the package with find_package(QBComponentAPI CONFIG). Run with -DBUILD_DIR -DSOURCE_DIR
-# -DWORK_DIR -DGENERATOR -DCXX.
+# -DWORK_DIR -DGENERATOR -DCXX and optionally -DLAUNCHER (ccache, so reruns cost next to nothing).
 file(REMOVE_RECURSE ${WORK_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/prefix
                 RESULT_VARIABLE rc OUTPUT_QUIET)
@@ -9,6 +9,7 @@ if(rc)
 endif()
 execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR}/tests/install_consumer -B ${WORK_DIR}/build
                         -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix
+                        -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
                 RESULT_VARIABLE rc)
 if(rc)
   message(FATAL_ERROR "consumer configure failed: ${rc}")
