@@ -30,36 +30,36 @@ DecodingError parseFailure(simdjson::error_code error) {
   }
 }
 
-JsonValue convert(simdjson::dom::element element, const boost::json::storage_ptr& storage) {
+// Builds the value of `element` in `slot`, a null value that already has the reply's storage: every
+// value is built where it stays, with no temporary to move and destroy.
+void convertInto(simdjson::dom::element element, JsonValue& slot) {
   switch (element.type()) {
     case simdjson::dom::element_type::OBJECT: {
       simdjson::dom::object source = element.get_object().value_unsafe();
-      JsonMap map(storage);
+      JsonMap& map = slot.emplace_object();
       map.reserve(source.size());
-      for (auto field : source) map.insert_or_assign(field.key, convert(field.value, storage));
-      return JsonValue(std::move(map));
+      for (auto field : source) {
+        // A repeated key keeps its last value.
+        auto [at, inserted] = map.emplace(field.key, nullptr);
+        if (!inserted) at->value().emplace_null();
+        convertInto(field.value, at->value());
+      }
+      return;
     }
     case simdjson::dom::element_type::ARRAY: {
       simdjson::dom::array source = element.get_array().value_unsafe();
-      JsonList list(storage);
+      JsonList& list = slot.emplace_array();
       list.reserve(source.size());
-      for (auto child : source) list.push_back(convert(child, storage));
-      return JsonValue(std::move(list));
+      for (auto child : source) convertInto(child, list.emplace_back(nullptr));
+      return;
     }
-    case simdjson::dom::element_type::STRING:
-      return JsonValue(boost::json::string(element.get_string().value_unsafe(), storage));
-    case simdjson::dom::element_type::INT64:
-      return JsonValue(element.get_int64().value_unsafe(), storage);
-    case simdjson::dom::element_type::UINT64:
-      return JsonValue(element.get_uint64().value_unsafe(), storage);
-    case simdjson::dom::element_type::DOUBLE:
-      return JsonValue(element.get_double().value_unsafe(), storage);
-    case simdjson::dom::element_type::BOOL:
-      return JsonValue(element.get_bool().value_unsafe(), storage);
-    case simdjson::dom::element_type::NULL_VALUE:
-      break;
+    case simdjson::dom::element_type::STRING: slot.emplace_string() = element.get_string().value_unsafe(); return;
+    case simdjson::dom::element_type::INT64: slot.emplace_int64() = element.get_int64().value_unsafe(); return;
+    case simdjson::dom::element_type::UINT64: slot.emplace_uint64() = element.get_uint64().value_unsafe(); return;
+    case simdjson::dom::element_type::DOUBLE: slot.emplace_double() = element.get_double().value_unsafe(); return;
+    case simdjson::dom::element_type::BOOL: slot.emplace_bool() = element.get_bool().value_unsafe(); return;
+    case simdjson::dom::element_type::NULL_VALUE: return;
   }
-  return JsonValue(nullptr, storage);
 }
 
 simdjson::dom::parser& threadParser() {
@@ -237,10 +237,17 @@ JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
       throw parseFailure(error);
     }
   }
-  simdjson::padded_string padded(bytes);
+  // The reply with the parser's padding, in a buffer the thread reuses (released like the parser's).
+  thread_local std::string buffer;
+  if (buffer.capacity() > (std::size_t{8} << 20) && bytes.size() < (std::size_t{1} << 20)) std::string().swap(buffer);
+  buffer.reserve(bytes.size() + simdjson::SIMDJSON_PADDING);
+  buffer.assign(bytes);
+  buffer.append(simdjson::SIMDJSON_PADDING, '\0');
   simdjson::dom::element root;
-  if (auto error = parser.parse(padded).get(root)) throw parseFailure(error);
-  return convert(root, storage);
+  if (auto error = parser.parse(buffer.data(), bytes.size(), false).get(root)) throw parseFailure(error);
+  JsonValue value(std::move(storage));
+  convertInto(root, value);
+  return value;
 }
 
 JsonMap parseJsonMap(std::string_view bytes, boost::json::storage_ptr storage) {
