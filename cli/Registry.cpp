@@ -11,8 +11,7 @@ namespace {
 template <class Message>
 JsonValue sendDictionary(host::Client& client, const Arguments& args) {
   auto message = std::make_shared<Message>();
-  detail::forEachField(Message::qbParams(),
-                       [&](const auto& field) { detail::readField(*message, field, args.values); });
+  detail::readFields<&Message::qbParams>(*message, args.values);
   if constexpr (requires { message->setAvatar(std::vector<std::byte>{}); }) {
     if (const auto file = args.files.find("avatar"); file != args.files.end()) message->setAvatar(file->second);
   }

@@ -39,8 +39,7 @@ void fuzzMessage(const qb::JsonMap& reply) {
   }
   // The same map as parameter values, each read the way a model field of its kind is.
   try {
-    qb::detail::forEachField(Message::qbParams(),
-                             [&](const auto& field) { qb::detail::readField(*message, field, reply); });
+    qb::detail::readFields<&Message::qbParams>(*message, reply);
   } catch (const qb::ParameterCheckFailException&) {
     return;
   } catch (const qb::JsonTypeError&) {

@@ -25,6 +25,7 @@
 #include <utility>
 #include <vector>
 
+#include "frame/detail/NameTable.hpp"
 #include "frame/Date.hpp"
 #include "frame/Enum.hpp"
 #include "frame/HostTypes.hpp"
@@ -83,70 +84,22 @@ namespace detail {
 template <class T>
 inline constexpr std::size_t keyCount = std::tuple_size_v<std::remove_cv_t<decltype(T::codingKeys)>>;
 
-constexpr std::uint32_t keyHash(std::string_view text, std::uint32_t seed) noexcept {
-  std::uint32_t h = 2166136261u ^ seed;
-  for (char c : text) h = (h ^ static_cast<unsigned char>(c)) * 16777619u;
-  return h ^ (h >> 15);
-}
-
-// A collision-free hash table over a record's keys, found at compile time, so that a key in a reply is
-// matched with one hash and one comparison however many keys the record has.
 template <class T>
-struct KeyTable {
-  static constexpr std::size_t count = keyCount<T>;
-
-  static constexpr std::array<std::string_view, count> names = [] {
-    std::array<std::string_view, count> out{};
+struct CodingKeyNames {
+  static constexpr std::array<std::string_view, keyCount<T>> names = [] {
+    std::array<std::string_view, keyCount<T>> out{};
     std::apply([&](const auto&... k) {
       std::size_t i = 0;
       ((out[i++] = k.name), ...);
     }, T::codingKeys);
     return out;
   }();
-
-  struct Layout {
-    std::uint32_t seed = 0;
-    std::uint32_t mask = 0;
-    std::array<std::uint8_t, 256> slots{};  // key index + 1; 0 = empty
-  };
-
-  static constexpr Layout layout = [] {
-    static_assert(count < 64, "a record may declare at most 63 keys");
-    Layout out;
-    std::size_t size = 1;
-    while (size < count * 2) size *= 2;
-    for (; size <= 256; size *= 2) {
-      for (std::uint32_t seed = 0; seed < 4096; ++seed) {
-        std::array<std::uint8_t, 256> slots{};
-        bool ok = true;
-        for (std::size_t i = 0; i < count && ok; ++i) {
-          auto& slot = slots[keyHash(names[i], seed) & (size - 1)];
-          if (slot != 0) ok = false;
-          slot = static_cast<std::uint8_t>(i + 1);
-        }
-        if (ok) {
-          out.seed = seed;
-          out.mask = static_cast<std::uint32_t>(size - 1);
-          out.slots = slots;
-          return out;
-        }
-      }
-    }
-    return out;  // unreachable for distinct keys
-  }();
-
-  // The index of `text` among the keys, or -1: keys match only by their exact text.
-  static constexpr int find(std::string_view text) noexcept {
-    if constexpr (count == 0) {
-      return -1;
-    } else {
-      const std::uint8_t slot = layout.slots[keyHash(text, layout.seed) & layout.mask];
-      if (slot == 0) return -1;
-      const std::string_view candidate = names[slot - 1];
-      return candidate == text ? slot - 1 : -1;
-    }
-  }
 };
+
+// A record's coding keys in a collision-free hash table, so that a key in a reply is matched with one
+// hash and one comparison however many keys the record has.
+template <class T>
+struct KeyTable : NameTable<CodingKeyNames<T>::names> {};
 
 // Calls f(std::integral_constant<std::size_t, I>{}) for the key index I equal to the runtime `index`.
 template <class T, class F>

@@ -173,6 +173,8 @@ class DictMessage : public QBMessageBase {
   static constexpr std::string_view kModelName = Name;                      \
   Class() = default;                                                        \
   static std::shared_ptr<Class> initWithJsonObject(const ::qb::JsonMap& map); \
+  /* The same from a map the caller gives up: values are moved, not copied. */ \
+  static std::shared_ptr<Class> initWithJsonObject(::qb::JsonMap&& map);      \
   static std::shared_ptr<Class> initWithJsonObject(const ::qb::JsonValue& value); \
   ::qb::JsonMap toDictionary() const override;                              \
   std::string_view modelName() const override { return kModelName; }
@@ -186,4 +188,5 @@ class DictMessage : public QBMessageBase {
   Class() = default;                                                   \
   friend class ::qb::DictMessage<Class>;                               \
   ::qb::JsonMap getParams() const override;                            \
-  ::qb::QBMessageBase& parseResponse(const ::qb::JsonMap& reply) override;
+  ::qb::QBMessageBase& parseResponse(const ::qb::JsonMap& reply) override; \
+  ::qb::QBMessageBase& parseResponse(::qb::JsonMap&& reply) override;

@@ -174,6 +174,27 @@ TEST(DictEngine, ParseResponseFillsKeepsAndClearsResults) {
   EXPECT_FALSE(fresh->config());
 }
 
+TEST(DictEngine, AReplyGivenUpIsReadLikeABorrowedOne) {
+  // Values moved out of an owned reply must equal those copied out of a borrowed one, for plain values,
+  // maps, nested models and keys in any order, with unknown and repeated keys.
+  const std::string reply = std::string(R"({"zz": 1, "other_configs": {"a": [1, "x", null]}, "config": )") + kConfig +
+                            R"(, "other_configs": {"b": 18446744073709551615}})";
+  const JsonMap borrowed = parseJsonMap(reply);
+  auto copied = QBUserGetConfigMessage::initWithData(1, JsonValue("DE"));
+  copied->parseResponse(borrowed);
+  auto moved = QBUserGetConfigMessage::initWithData(1, JsonValue("DE"));
+  JsonMap owned = parseJsonMap(reply);
+  moved->parseResponse(std::move(owned));
+  ASSERT_TRUE(copied->config() && moved->config());
+  EXPECT_EQ(moved->config()->toDictionary(), copied->config()->toDictionary());
+  EXPECT_EQ(toJson(*moved->otherConfigs()), R"({"b":18446744073709551615})");
+  EXPECT_EQ(borrowed, parseJsonMap(reply)) << "a borrowed reply is left as it was";
+
+  // Models read from an owned map likewise.
+  EXPECT_EQ(QBAPIClientConfig::initWithJsonObject(parseJsonMap(kConfig))->toDictionary(),
+            QBAPIClientConfig::initWithJsonObject(static_cast<const JsonMap&>(parseJsonMap(kConfig)))->toDictionary());
+}
+
 TEST(DictEngine, ListLevelOperations) {
   std::vector<std::shared_ptr<QBAPIAutoUpdate>> list{
       QBAPIAutoUpdate::initWithJsonObject(parseJsonMap(R"({"has_update": true, "force_update": false})"))};

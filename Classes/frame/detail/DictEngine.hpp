@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "frame/DictModel.hpp"
+#include "frame/detail/NameTable.hpp"
 
 namespace qb::detail {
 
@@ -47,70 +48,107 @@ struct DictKind<std::optional<std::vector<std::byte>>> : DictKind<void> {
 
 [[noreturn]] void throwNotA(std::string_view expected, std::string_view key, const JsonValue& value);
 
-// The value under `key`, or nullptr when the key is absent or holds JSON null.
-inline const JsonValue* lookup(const JsonMap& map, std::string_view key) {
-  const JsonValue* value = map.if_contains(key);
-  return value && !value->is_null() ? value : nullptr;
+// The engine reads from a reply it borrows (`const JsonMap`), copying values out, or from one it was
+// handed (`JsonMap`, from an rvalue), moving them out. V is JsonValue or const JsonValue accordingly.
+template <class From, class To>
+using Like = std::conditional_t<std::is_const_v<From>, const To, To>;
+
+// The value itself to store: a copy of a borrowed one, the moved value of an owned one.
+template <class V>
+decltype(auto) take(V& value) {
+  if constexpr (std::is_const_v<V>) {
+    return static_cast<V&>(value);
+  } else {
+    return std::move(value);
+  }
 }
 
-inline const JsonMap& asMap(const JsonValue& value, std::string_view key) {
+template <class V>
+Like<V, JsonMap>& asMap(V& value, std::string_view key) {
   if (!value.is_object()) throwNotA("an object", key, value);
   return value.get_object();
 }
 
-inline const JsonList& asList(const JsonValue& value, std::string_view key) {
+template <class V>
+Like<V, JsonList>& asList(V& value, std::string_view key) {
   if (!value.is_array()) throwNotA("an array", key, value);
   return value.get_array();
 }
 
-template <class M>
-std::vector<std::shared_ptr<M>> readModelList(const JsonValue& value, std::string_view key) {
-  const JsonList& list = asList(value, key);
+template <class M, class V>
+std::vector<std::shared_ptr<M>> readModelList(V& value, std::string_view key) {
+  auto& list = asList(value, key);
   std::vector<std::shared_ptr<M>> models;
   models.reserve(list.size());
-  for (const JsonValue& element : list) {
+  for (auto& element : list) {
     // The error names the element: "faqs[2]".
     if (!element.is_object()) {
       throwNotA("an object", std::string(key) + '[' + std::to_string(models.size()) + ']', element);
     }
-    models.push_back(M::initWithJsonObject(element.get_object()));
+    models.push_back(M::initWithJsonObject(take(element.get_object())));
   }
   return models;
 }
 
-// Reads one field as initWithJsonObject does and returns whether it is present.
-template <class Owner, class T>
-bool readField(Owner& owner, const dict::Field<Owner, T>& field, const JsonMap& map) {
+// Reads one field as initWithJsonObject does and returns whether it is present. `value` is the reply's
+// value under the field's key, nullptr when the key is absent.
+template <class Owner, class T, class V>
+bool readField(Owner& owner, const dict::Field<Owner, T>& field, V* value) {
   using Kind = DictKind<T>;
   Atomic<T>& cell = owner.*field.member;
   if constexpr (Kind::integer) {
     // Never null-checked: a null here is a fault of the reply and toInteger reports it.
-    const JsonValue* value = map.if_contains(field.key);
     cell.store(value ? toInteger(*value, field.key) : 0);
     return true;
   } else {
-    const JsonValue* value = lookup(map, field.key);
+    if (value && value->is_null()) value = nullptr;
     if constexpr (Kind::map) {
       // The one type check of the face: a map field keeps only a map.
       if (!value || !value->is_object()) return false;
-      cell.store(value->get_object());
+      cell.store(take(value->get_object()));
       return true;
     } else {
       if (!value) return false;
       if constexpr (Kind::plain) {
-        cell.store(*value);
+        cell.store(take(*value));
       } else if constexpr (Kind::model) {
-        cell.store(Kind::Model::initWithJsonObject(asMap(*value, field.key)));
+        cell.store(Kind::Model::initWithJsonObject(take(asMap(*value, field.key))));
       } else if constexpr (Kind::modelList) {
         cell.store(readModelList<typename Kind::Model>(*value, field.key));
       } else if constexpr (Kind::list) {
-        cell.store(asList(*value, field.key));
+        cell.store(take(asList(*value, field.key)));
       } else {
         static_assert(!Kind::data, "file data is never read from a map");
       }
       return true;
     }
   }
+}
+
+// The keys of a field table (TableFn: a class's qbFields, qbParams or qbResults), in declared order.
+template <auto TableFn>
+struct TableKeys {
+  static constexpr auto table = TableFn();
+  static constexpr auto names = std::apply(
+      [](const auto&... field) { return std::array<std::string_view, sizeof...(field)>{field.key...}; }, table);
+};
+
+// Calls f(field, value) for each field of the table in declared order, with the reply's value under the
+// field's key or nullptr. The reply is walked once and its keys matched through a hash table, instead of
+// one search of the map per field (a linear scan for small maps).
+template <auto TableFn, class Map, class F>
+void forEachFieldIn(Map& map, F&& f) {
+  using Keys = TableKeys<TableFn>;
+  using Table = NameTable<Keys::names>;
+  std::array<Like<Map, JsonValue>*, Table::count> values{};
+  if constexpr (Table::count > 0) {
+    for (auto& entry : map) {
+      const int index = Table::find(entry.key());
+      if (index >= 0) values[static_cast<std::size_t>(index)] = &entry.value();
+    }
+  }
+  std::size_t index = 0;
+  std::apply([&](const auto&... field) { (f(field, values[index++]), ...); }, Keys::table);
 }
 
 // The dictionary form of a present property, or nothing when it is absent.
@@ -166,11 +204,17 @@ void forEachField(const Tuple& table, F&& f) {
 
 namespace qb::detail {
 
-template <class Model>
-std::shared_ptr<Model> modelFromMap(const JsonMap& map) {
+// Reads every field of the table from the map, as a model's fields are read, without required checks.
+template <auto TableFn, class Owner, class Map>
+void readFields(Owner& owner, Map& map) {
+  forEachFieldIn<TableFn>(map, [&](const auto& field, auto* value) { readField(owner, field, value); });
+}
+
+template <class Model, class Map>
+std::shared_ptr<Model> modelFromMap(Map& map) {
   auto model = std::make_shared<Model>();
-  forEachField(Model::qbFields(), [&](const auto& field) {
-    if (!readField(*model, field, map) && field.required) {
+  forEachFieldIn<&Model::qbFields>(map, [&](const auto& field, auto* value) {
+    if (!readField(*model, field, value) && field.required) {
       throw ParameterCheckFailException::missing(field.name, Model::kModelName);
     }
   });
@@ -201,17 +245,17 @@ JsonMap messageParams(const Message& message) {
   return map;
 }
 
-template <class Message>
-void messageParseResponse(Message& message, const JsonMap& reply) {
-  forEachField(Message::qbResults(), [&](const auto& field) {
+template <class Message, class Map>
+void messageParseResponse(Message& message, Map& reply) {
+  forEachFieldIn<&Message::qbResults>(reply, [&](const auto& field, auto* value) {
     using T = typename std::remove_reference_t<decltype((message.*field.member))>::value_type_;
     using Kind = DictKind<T>;
     if constexpr (Kind::model || Kind::modelList) {
       // Nested results keep their old value when the reply has nothing there.
-      readField(message, field, reply);
+      readField(message, field, value);
     } else {
       // Everything else is stored as received; absent or null clears it.
-      if (!readField(message, field, reply)) (message.*field.member).store(T{});
+      if (!readField(message, field, value)) (message.*field.member).store(T{});
     }
   });
 }
@@ -224,6 +268,9 @@ void messageParseResponse(Message& message, const JsonMap& reply) {
   std::shared_ptr<Class> Class::initWithJsonObject(const ::qb::JsonMap& map) {                         \
     return ::qb::detail::modelFromMap<Class>(map);                                                     \
   }                                                                                                    \
+  std::shared_ptr<Class> Class::initWithJsonObject(::qb::JsonMap&& map) {                              \
+    return ::qb::detail::modelFromMap<Class>(map);                                                     \
+  }                                                                                                    \
   std::shared_ptr<Class> Class::initWithJsonObject(const ::qb::JsonValue& value) {                     \
     return ::qb::detail::modelFromMap<Class>(::qb::detail::asMap(value, kModelName));                  \
   }                                                                                                    \
@@ -233,6 +280,10 @@ void messageParseResponse(Message& message, const JsonMap& reply) {
 #define QB_DICT_MESSAGE_DEFINE(Class)                                                                  \
   ::qb::JsonMap Class::getParams() const { return ::qb::detail::messageParams(*this); }                \
   ::qb::QBMessageBase& Class::parseResponse(const ::qb::JsonMap& reply) {                              \
+    ::qb::detail::messageParseResponse(*this, reply);                                                  \
+    return *this;                                                                                      \
+  }                                                                                                    \
+  ::qb::QBMessageBase& Class::parseResponse(::qb::JsonMap&& reply) {                                   \
     ::qb::detail::messageParseResponse(*this, reply);                                                  \
     return *this;                                                                                      \
   }
