@@ -227,6 +227,55 @@ TEST(TypedCodec, TolerantOfUnknownKeysStrictAboutJson) {
   }
 }
 
+// Keys that share prefixes, one longer than the parser's padding, and one that is empty.
+struct Keys {
+  std::int64_t a = 0, ab = 0, abc = 0;
+  std::optional<std::int64_t> longest = std::nullopt, empty = std::nullopt;
+  static constexpr auto codingKeys = qb::codingKeys(
+      qb::key("a", &Keys::a), qb::key("ab", &Keys::ab), qb::key("abc", &Keys::abc),
+      qb::key("a_key_longer_than_the_sixty_four_bytes_of_padding_that_follow_the_reply_text", &Keys::longest),
+      qb::key("", &Keys::empty));
+  bool operator==(const Keys&) const = default;
+};
+
+// The streaming decoder alone, without the exact decoder it falls back to: nullopt where it gives up.
+template <class T>
+std::optional<T> streamed(std::string_view json) {
+  try {
+    simdjson::ondemand::value root;
+    if (detail::openDocument(json).get_value().get(root)) return std::nullopt;
+    T out{};
+    detail::StreamNode node(root, DateStrategy::secondsSince1970);
+    detail::decodeValue(node, out);
+    return out;
+  } catch (const detail::StreamFailure&) {
+    return std::nullopt;
+  }
+}
+
+TEST(TypedCodec, KeysMatchExactlyWhateverTheirOrderPrefixesLengthOrEscapes) {
+  const std::string longKey = "a_key_longer_than_the_sixty_four_bytes_of_padding_that_follow_the_reply_text";
+  struct Row {
+    std::string json;
+    Keys expected;
+  };
+  const std::vector<Row> rows = {
+      {R"({"a": 1, "ab": 2, "abc": 3})", {1, 2, 3}},
+      {R"({"abc": 3, "ab": 2, "a": 1})", {1, 2, 3}},
+      {R"({"abcd": 9, "ab": 2, "a ": 9, "abc": 3, "A": 9, "a": 1})", {1, 2, 3}},
+      {R"({"a": 1, "a\u0062": 2, "\u0061bc": 3})", {1, 2, 3}},
+      {R"({"a": 1, "ab": 2, "abc": 3, "a": 4})", {4, 2, 3}},
+      {R"({"a": 1, "ab": 2, "abc": 3, ")" + longKey + R"(": 5, "": 6})", {1, 2, 3, 5, 6}},
+      {R"({")" + longKey + R"(x": 9, "": 6, "ab": 2, "a": 1, "abc": 3})", {1, 2, 3, std::nullopt, 6}},
+  };
+  for (const Row& row : rows) {
+    const auto fast = streamed<Keys>(row.json);
+    ASSERT_TRUE(fast) << row.json;
+    EXPECT_EQ(*fast, row.expected) << row.json;
+    EXPECT_EQ(JsonValueDecoder().decode<Keys>(parseJson(row.json)), row.expected) << row.json;
+  }
+}
+
 TEST(TypedCodec, GetConfigRequestDescribesTheCall) {
   const UserGetConfigRequest request{.languageCode = LanguageCode::de, .countryCode = "DE"};
   EXPECT_EQ(request.api(), "v3/user/get_config");
