@@ -61,12 +61,11 @@ JsonValue streamToValue(simdjson::ondemand::value value, std::size_t depth) {
       return JsonValue(s);
     }
     case simdjson::ondemand::json_type::number: {
-      simdjson::ondemand::number number;
-      if (value.get_number().get(number)) throwStreamFailure();
-      switch (number.get_number_type()) {
-        case simdjson::ondemand::number_type::signed_integer: return JsonValue(number.get_int64());
-        case simdjson::ondemand::number_type::unsigned_integer: return JsonValue(number.get_uint64());
-        case simdjson::ondemand::number_type::floating_point_number: return JsonValue(number.get_double());
+      const StreamNumber number = readNumber(value);
+      switch (number.kind) {
+        case StreamNumber::Kind::int64: return JsonValue(number.i);
+        case StreamNumber::Kind::uint64: return JsonValue(number.u);
+        case StreamNumber::Kind::real: return JsonValue(number.d);
       }
       throwStreamFailure();
     }

@@ -41,6 +41,45 @@ bool rawKeyIs(const char* raw) noexcept {
   }
 }
 
+// A number read by its kind, as the full parse reads it: an integer past 64 bits is refused, not rounded,
+// and "-0" is the integer 0. (Not through value::get_number(): the parser version this builds against
+// reads a floating-point number of more than 19 significant digits as 0 there.)
+struct StreamNumber {
+  enum class Kind { int64, uint64, real } kind;
+  std::int64_t i = 0;
+  std::uint64_t u = 0;
+  double d = 0;
+
+  double asDouble() const noexcept {
+    switch (kind) {
+      case Kind::int64: return static_cast<double>(i);
+      case Kind::uint64: return static_cast<double>(u);
+      case Kind::real: return d;
+    }
+    return d;
+  }
+};
+
+inline StreamNumber readNumber(simdjson::ondemand::value& value) {
+  simdjson::ondemand::number_type type;
+  if (value.get_number_type().get(type)) throwStreamFailure();
+  StreamNumber n{StreamNumber::Kind::real};
+  switch (type) {
+    case simdjson::ondemand::number_type::signed_integer:
+      n.kind = StreamNumber::Kind::int64;
+      if (value.get_int64().get(n.i)) throwStreamFailure();
+      return n;
+    case simdjson::ondemand::number_type::unsigned_integer:
+      n.kind = StreamNumber::Kind::uint64;
+      if (value.get_uint64().get(n.u)) throwStreamFailure();
+      return n;
+    case simdjson::ondemand::number_type::floating_point_number:
+      if (value.get_double().get(n.d)) throwStreamFailure();
+      return n;
+  }
+  throwStreamFailure();
+}
+
 // A decoder node over the parser's on-demand value: records are read in document order.
 class StreamNode {
  public:
@@ -65,18 +104,7 @@ class StreamNode {
     if (value_.get_int64().get(i)) throwStreamFailure();
     return i;
   }
-  double readDouble() {
-    // By the number's kind, as the full parse reads it: an integer past 64 bits is refused, not rounded,
-    // and "-0" is the integer 0.
-    simdjson::ondemand::number number;
-    if (value_.get_number().get(number)) throwStreamFailure();
-    switch (number.get_number_type()) {
-      case simdjson::ondemand::number_type::signed_integer: return static_cast<double>(number.get_int64());
-      case simdjson::ondemand::number_type::unsigned_integer: return static_cast<double>(number.get_uint64());
-      case simdjson::ondemand::number_type::floating_point_number: return number.get_double();
-    }
-    throwStreamFailure();
-  }
+  double readDouble() { return readNumber(value_).asDouble(); }
   std::string_view readString() {
     std::string_view s;
     if (value_.get_string().get(s)) throwStreamFailure();
