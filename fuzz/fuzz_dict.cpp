@@ -3,6 +3,8 @@
 // and JsonTypeError from reading; anything else, and any value read from a reply that cannot be written
 // back exactly, is a finding.
 #include <cstdlib>
+#include <string>
+#include <variant>
 
 #include "frame/detail/DictEngine.hpp"
 #include "fuzz/Registry.hpp"
@@ -20,23 +22,40 @@ void checkWritable(const qb::JsonMap& map) {
   check(qb::parseJsonMap(*text) == map);
 }
 
+// What reading gave: the dictionary it produced, or which error it raised.
+template <class Read>
+std::variant<qb::JsonMap, std::string> outcome(Read&& read) {
+  try {
+    return read();
+  } catch (const qb::ParameterCheckFailException& e) {
+    return std::string("check: ") + e.what();
+  } catch (const qb::JsonTypeError& e) {
+    return std::string("type: ") + e.what();
+  }
+}
+
+// A model read from a borrowed reply and from one given up (values moved out) must be the same.
 template <class Model>
 void fuzzModel(const qb::JsonMap& reply) {
-  try {
-    checkWritable(Model::initWithJsonObject(reply)->toDictionary());
-  } catch (const qb::ParameterCheckFailException&) {
-  } catch (const qb::JsonTypeError&) {
-  }
+  const auto borrowed = outcome([&] { return Model::initWithJsonObject(reply)->toDictionary(); });
+  qb::JsonMap copy = reply;
+  check(outcome([&] { return Model::initWithJsonObject(std::move(copy))->toDictionary(); }) == borrowed);
+  if (const auto* map = std::get_if<qb::JsonMap>(&borrowed)) checkWritable(*map);
 }
 
 template <class Message>
 void fuzzMessage(const qb::JsonMap& reply) {
   auto message = std::make_shared<Message>();
-  try {
+  const auto borrowed = outcome([&] {
     message->parseResponse(reply);
-  } catch (const qb::ParameterCheckFailException&) {
-  } catch (const qb::JsonTypeError&) {
-  }
+    return qb::detail::tableToDictionary(Message::qbResults(), *message);
+  });
+  auto moved = std::make_shared<Message>();
+  qb::JsonMap copy = reply;
+  check(outcome([&] {
+          moved->parseResponse(std::move(copy));
+          return qb::detail::tableToDictionary(Message::qbResults(), *moved);
+        }) == borrowed);
   // The same map as parameter values, each read the way a model field of its kind is.
   try {
     qb::detail::readFields<&Message::qbParams>(*message, reply);
