@@ -8,18 +8,9 @@ simdjson::ondemand::document& openDocument(std::string_view json) {
   thread_local simdjson::ondemand::parser parser;
   thread_local std::string buffer;
   thread_local simdjson::ondemand::document document;
-  // Large buffers, the copy's and the parser's (about seven times a reply's size, mostly untouched),
-  // are not kept past the next small reply.
-  constexpr std::size_t kLarge = std::size_t{8} << 20;
-  if (json.size() < (std::size_t{1} << 20)) {
-    if (buffer.capacity() > kLarge) std::string().swap(buffer);
-    if (parser.capacity() > kLarge) parser = simdjson::ondemand::parser();
-  }
-  // Sized once for the text and its padding: appending the padding to a buffer sized for the text
-  // alone would copy the whole reply again into one twice as large.
-  buffer.reserve(json.size() + simdjson::SIMDJSON_PADDING);
-  buffer.assign(json);
-  buffer.append(simdjson::SIMDJSON_PADDING, '\0');
+  // The parser's buffers take about seven times a reply's size, mostly untouched.
+  if (givesBack(parser.capacity(), json.size())) parser = simdjson::ondemand::parser();
+  copyPadded(buffer, json);
   simdjson::padded_string_view padded(buffer.data(), json.size(), buffer.size());
   if (parser.iterate(padded).get(document)) throwStreamFailure();
   return document;

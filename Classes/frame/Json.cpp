@@ -227,22 +227,15 @@ bool appendQuotedJson(std::string& out, std::string_view s) {
 
 JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
   auto& parser = threadParser();
-  // The parser's buffers take about fourteen times the largest reply seen; after a large reply they
-  // are given back at the next small one.
-  if (parser.capacity() > (std::size_t{8} << 20) && bytes.size() < (std::size_t{1} << 20)) {
-    parser = simdjson::dom::parser();
-  }
+  // The parser's buffers take about fourteen times the largest reply seen.
+  if (detail::givesBack(parser.capacity(), bytes.size())) parser = simdjson::dom::parser();
   if (parser.max_depth() != kMaxJsonDepth || parser.capacity() < bytes.size()) {
     if (auto error = parser.allocate(std::max<std::size_t>(bytes.size(), 4096), kMaxJsonDepth)) {
       throw parseFailure(error);
     }
   }
-  // The reply with the parser's padding, in a buffer the thread reuses (released like the parser's).
   thread_local std::string buffer;
-  if (buffer.capacity() > (std::size_t{8} << 20) && bytes.size() < (std::size_t{1} << 20)) std::string().swap(buffer);
-  buffer.reserve(bytes.size() + simdjson::SIMDJSON_PADDING);
-  buffer.assign(bytes);
-  buffer.append(simdjson::SIMDJSON_PADDING, '\0');
+  detail::copyPadded(buffer, bytes);
   simdjson::dom::element root;
   if (auto error = parser.parse(buffer.data(), bytes.size(), false).get(root)) throw parseFailure(error);
   JsonValue value(std::move(storage));

@@ -15,3 +15,29 @@
 #define SIMDJSON_THREADS_ENABLED 1
 #endif
 #include <simdjson.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace qb::detail {
+
+// Each thread keeps its parsers and its padded copy of the reply from one reply to the next. Buffers
+// grown past kLargeBuffer by a large reply are given back at the next reply under kSmallReply.
+inline constexpr std::size_t kLargeBuffer = std::size_t{8} << 20;
+inline constexpr std::size_t kSmallReply = std::size_t{1} << 20;
+
+inline bool givesBack(std::size_t capacity, std::size_t replySize) noexcept {
+  return capacity > kLargeBuffer && replySize < kSmallReply;
+}
+
+// Copies `bytes` into `buffer` followed by the parser's padding (zeros). The buffer is sized once for
+// both: appending the padding to a buffer sized for the text alone would copy the whole reply again.
+inline void copyPadded(std::string& buffer, std::string_view bytes) {
+  if (givesBack(buffer.capacity(), bytes.size())) std::string().swap(buffer);
+  buffer.reserve(bytes.size() + simdjson::SIMDJSON_PADDING);
+  buffer.assign(bytes);
+  buffer.append(simdjson::SIMDJSON_PADDING, '\0');
+}
+
+}  // namespace qb::detail
