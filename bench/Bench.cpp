@@ -346,12 +346,6 @@ bool profile(int argc, char** argv) {
   return false;
 }
 
-}  // namespace
-}  // namespace qb::bench
-
-namespace qb::bench {
-namespace {
-
 // The fastest of 40 runs of decode alone and of destroying its result, in milliseconds.
 template <class T, class Decode>
 void printSplit(const char* variant, const Reply& reply, Decode decode) {
