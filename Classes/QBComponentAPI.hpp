@@ -1,21 +1,21 @@
 // QBComponentAPI: everything an app needs, in one include.
 #pragma once
 
-#include "frame/Codable.hpp"
-#include "frame/Date.hpp"
-#include "frame/DictModel.hpp"
-#include "frame/Endpoint.hpp"
-#include "frame/Enum.hpp"
-#include "frame/Errors.hpp"
-#include "frame/HostTypes.hpp"
-#include "frame/JSONDecoder.hpp"
-#include "frame/JSONEncoder.hpp"
-#include "frame/Json.hpp"
-#include "frame/JsonValueCodec.hpp"
-#include "frame/Protocols.hpp"
-#include "frame/QBMessageBase.hpp"
+#include <QBComponentAPI/frame/Codable.hpp>
+#include <QBComponentAPI/frame/Date.hpp>
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/frame/Endpoint.hpp>
+#include <QBComponentAPI/frame/Enum.hpp>
+#include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/HostTypes.hpp>
+#include <QBComponentAPI/frame/JSONDecoder.hpp>
+#include <QBComponentAPI/frame/JSONEncoder.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/frame/QBMessageBase.hpp>
 
-#include "user/UserEndpoints.hpp"
-#include "user/dict/UserDict.hpp"
-#include "user/enums/UserEnums.hpp"
-#include "user/typed/UserTyped.hpp"
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/enums/UserEnums.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>

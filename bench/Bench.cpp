@@ -19,8 +19,8 @@
 #include "Corpus.hpp"
 #include "Memory.hpp"
 #include "Records.hpp"
-#include "frame/JSONEncoder.hpp"
-#include "frame/Json.hpp"
+#include <QBComponentAPI/frame/JSONEncoder.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
 #include "peers/Peers.hpp"
 
 namespace qb::bench {

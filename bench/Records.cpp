@@ -2,8 +2,8 @@
 // .cpp file would.
 #include "Records.hpp"
 
-#include "frame/detail/DictEngine.hpp"
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::bench::UserList)
 QB_DICT_MESSAGE_DEFINE(qb::bench::QBBenchUserListMessage)

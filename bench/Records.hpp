@@ -4,20 +4,20 @@
 
 #include <vector>
 
-#include "frame/DictModel.hpp"
-#include "frame/Protocols.hpp"
-#include "user/UserEndpoints.hpp"
-#include "user/dict/QBAPIClientConfig.hpp"
-#include "user/dict/QBAPIFaq.hpp"
-#include "user/dict/QBAPIUser.hpp"
-#include "user/dict/QBAPIUserAdditionalData.hpp"
-#include "user/dict/QBUserGetConfigMessage.hpp"
-#include "user/dict/QBUserGetFaqMessage.hpp"
-#include "user/dict/QBUserInitialiseMessage.hpp"
-#include "user/typed/UserGetConfigResponse.hpp"
-#include "user/typed/UserGetFaqResponse.hpp"
-#include "user/typed/UserInitialiseResponse.hpp"
-#include "user/typed/UserModel.hpp"
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
+#include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUser.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUserAdditionalData.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetConfigMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserInitialiseMessage.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigResponse.hpp>
+#include <QBComponentAPI/user/typed/UserGetFaqResponse.hpp>
+#include <QBComponentAPI/user/typed/UserInitialiseResponse.hpp>
+#include <QBComponentAPI/user/typed/UserModel.hpp>
 
 namespace qb::bench {
 

@@ -1,8 +1,8 @@
 #include "cli/Registry.hpp"
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/UserDict.hpp"
-#include "user/typed/UserTyped.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 namespace qb::cli {
 namespace {

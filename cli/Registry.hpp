@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/Endpoint.hpp"
-#include "frame/Json.hpp"
-#include "host/Client.hpp"
+#include <QBComponentAPI/frame/Endpoint.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/host/Client.hpp>
 
 namespace qb::cli {
 

@@ -6,8 +6,8 @@
 
 #include "cli/Registry.hpp"
 #include "mock/Service.hpp"
-#include "user/dict/UserDict.hpp"
-#include "user/typed/UserTyped.hpp"
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 namespace {
 

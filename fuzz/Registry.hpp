@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <tuple>
 
-#include "user/dict/UserDict.hpp"
-#include "user/typed/UserTyped.hpp"
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 namespace qb::fuzz {
 

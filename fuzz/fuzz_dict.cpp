@@ -6,7 +6,7 @@
 #include <string>
 #include <variant>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include "fuzz/Registry.hpp"
 
 namespace {

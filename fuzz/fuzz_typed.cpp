@@ -3,7 +3,7 @@
 // encode and decode back to an equal record. Only DecodingError may escape a decode.
 #include <cstdlib>
 
-#include "frame/JsonValueCodec.hpp"
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
 #include "fuzz/Registry.hpp"
 
 namespace {

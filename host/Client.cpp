@@ -1,4 +1,4 @@
-#include "host/Client.hpp"
+#include <QBComponentAPI/host/Client.hpp>
 
 #include <random>
 #include <thread>

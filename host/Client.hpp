@@ -10,10 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "frame/JsonValueCodec.hpp"
-#include "frame/Protocols.hpp"
-#include "frame/QBMessageBase.hpp"
-#include "host/Transport.hpp"
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/frame/QBMessageBase.hpp>
+#include <QBComponentAPI/host/Transport.hpp>
 
 namespace qb::host {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <mutex>
 
-#include "host/Client.hpp"
+#include <QBComponentAPI/host/Client.hpp>
 
 namespace qb::host {
 namespace {

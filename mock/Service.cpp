@@ -10,8 +10,8 @@
 #include <stdexcept>
 #include <thread>
 
-#include "frame/Json.hpp"
-#include "user/UserEndpoints.hpp"
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
 
 namespace qb::mock {
 namespace {

@@ -25,10 +25,10 @@
 #include <utility>
 #include <vector>
 
-#include "frame/detail/NameTable.hpp"
-#include "frame/Date.hpp"
-#include "frame/Enum.hpp"
-#include "frame/HostTypes.hpp"
+#include <QBComponentAPI/frame/detail/NameTable.hpp>
+#include <QBComponentAPI/frame/Date.hpp>
+#include <QBComponentAPI/frame/Enum.hpp>
+#include <QBComponentAPI/frame/HostTypes.hpp>
 
 namespace qb {
 

@@ -1,7 +1,7 @@
 #include <cmath>
 #include <limits>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 namespace qb {
 

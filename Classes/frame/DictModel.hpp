@@ -22,11 +22,11 @@
 #include <tuple>
 #include <vector>
 
-#include "frame/Atomic.hpp"
-#include "frame/Endpoint.hpp"
-#include "frame/Errors.hpp"
-#include "frame/Json.hpp"
-#include "frame/QBMessageBase.hpp"
+#include <QBComponentAPI/frame/Atomic.hpp>
+#include <QBComponentAPI/frame/Endpoint.hpp>
+#include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/QBMessageBase.hpp>
 
 namespace qb {
 

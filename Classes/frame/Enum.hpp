@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/Errors.hpp"
+#include <QBComponentAPI/frame/Errors.hpp>
 
 namespace qb {
 

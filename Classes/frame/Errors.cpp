@@ -1,4 +1,4 @@
-#include "frame/Errors.hpp"
+#include <QBComponentAPI/frame/Errors.hpp>
 
 namespace qb {
 

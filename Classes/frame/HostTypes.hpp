@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/Enum.hpp"
-#include "frame/Json.hpp"
+#include <QBComponentAPI/frame/Enum.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
 
 namespace qb {
 

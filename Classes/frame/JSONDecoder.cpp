@@ -1,4 +1,4 @@
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 namespace qb::detail {
 

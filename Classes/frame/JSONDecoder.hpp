@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "frame/Codable.hpp"
-#include "frame/Date.hpp"
+#include <QBComponentAPI/frame/Codable.hpp>
+#include <QBComponentAPI/frame/Date.hpp>
 
 namespace qb {
 

@@ -1,6 +1,6 @@
-#include "frame/JSONEncoder.hpp"
+#include <QBComponentAPI/frame/JSONEncoder.hpp>
 
-#include "frame/detail/Simdjson.hpp"
+#include <QBComponentAPI/frame/detail/Simdjson.hpp>
 
 
 namespace qb::detail {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/Json.hpp"
-#include "frame/detail/TypedCodec.hpp"
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/detail/TypedCodec.hpp>
 
 namespace qb {
 

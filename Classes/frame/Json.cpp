@@ -1,13 +1,13 @@
-#include "frame/Json.hpp"
+#include <QBComponentAPI/frame/Json.hpp>
 
-#include "frame/detail/Simdjson.hpp"
+#include <QBComponentAPI/frame/detail/Simdjson.hpp>
 
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
 
-#include "frame/Errors.hpp"
+#include <QBComponentAPI/frame/Errors.hpp>
 
 namespace qb {
 namespace {

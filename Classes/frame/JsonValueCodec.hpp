@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "frame/Json.hpp"
-#include "frame/detail/TypedCodec.hpp"
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/detail/TypedCodec.hpp>
 
 namespace qb {
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "frame/Codable.hpp"
-#include "frame/Endpoint.hpp"
-#include "frame/HostTypes.hpp"
-#include "frame/JSONDecoder.hpp"
-#include "frame/JSONEncoder.hpp"
+#include <QBComponentAPI/frame/Codable.hpp>
+#include <QBComponentAPI/frame/Endpoint.hpp>
+#include <QBComponentAPI/frame/HostTypes.hpp>
+#include <QBComponentAPI/frame/JSONDecoder.hpp>
+#include <QBComponentAPI/frame/JSONEncoder.hpp>
 
 namespace qb {
 

@@ -1,4 +1,4 @@
-#include "frame/QBMessageBase.hpp"
+#include <QBComponentAPI/frame/QBMessageBase.hpp>
 
 namespace qb {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/HostTypes.hpp"
-#include "frame/Json.hpp"
+#include <QBComponentAPI/frame/HostTypes.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
 
 namespace qb {
 

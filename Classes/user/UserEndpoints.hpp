@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "frame/Endpoint.hpp"
+#include <QBComponentAPI/frame/Endpoint.hpp>
 
 namespace qb::user {
 

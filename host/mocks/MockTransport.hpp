@@ -3,7 +3,7 @@
 
 #include <gmock/gmock.h>
 
-#include "host/Transport.hpp"
+#include <QBComponentAPI/host/Transport.hpp>
 
 namespace qb::host {
 

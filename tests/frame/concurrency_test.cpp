@@ -5,7 +5,7 @@
 #include <atomic>
 #include <thread>
 
-#include "user/dict/UserDict.hpp"
+#include <QBComponentAPI/user/dict/UserDict.hpp>
 
 namespace qb {
 namespace {

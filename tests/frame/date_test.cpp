@@ -1,4 +1,4 @@
-#include "frame/Date.hpp"
+#include <QBComponentAPI/frame/Date.hpp>
 
 #include <gtest/gtest.h>
 

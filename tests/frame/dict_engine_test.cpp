@@ -4,11 +4,11 @@
 #include <atomic>
 #include <thread>
 
-#include "frame/DictModel.hpp"
-#include "user/dict/QBAPIAutoUpdate.hpp"
-#include "user/dict/QBAPIClientConfig.hpp"
-#include "user/dict/QBAPILegalConfig.hpp"
-#include "user/dict/QBUserGetConfigMessage.hpp"
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/user/dict/QBAPIAutoUpdate.hpp>
+#include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
+#include <QBComponentAPI/user/dict/QBAPILegalConfig.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetConfigMessage.hpp>
 
 namespace qb {
 namespace {

@@ -3,10 +3,10 @@
 
 #include <cmath>
 
-#include "frame/JsonValueCodec.hpp"
-#include "frame/detail/JSONDecoderImpl.hpp"
-#include "user/dict/UserDict.hpp"
-#include "user/typed/UserTyped.hpp"
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 namespace qb {
 namespace {

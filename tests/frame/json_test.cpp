@@ -1,11 +1,11 @@
-#include "frame/Json.hpp"
+#include <QBComponentAPI/frame/Json.hpp>
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <random>
 
-#include "frame/Errors.hpp"
+#include <QBComponentAPI/frame/Errors.hpp>
 
 namespace qb {
 namespace {

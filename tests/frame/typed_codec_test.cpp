@@ -2,11 +2,11 @@
 // the JsonValue codec alike.
 #include <gtest/gtest.h>
 
-#include "frame/JsonValueCodec.hpp"
-#include "frame/Protocols.hpp"
-#include "frame/detail/JSONDecoderImpl.hpp"
-#include "user/typed/UserGetConfigRequest.hpp"
-#include "user/typed/UserGetConfigResponse.hpp"
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigResponse.hpp>
 
 namespace qb::test {
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "frame/Errors.hpp"
+#include <QBComponentAPI/frame/Errors.hpp>
 
 namespace qb {
 

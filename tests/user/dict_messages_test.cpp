@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "user/Fixtures.hpp"
-#include "user/dict/UserDict.hpp"
+#include <QBComponentAPI/user/dict/UserDict.hpp>
 #include "user/dict_helpers.hpp"
 
 namespace qb {

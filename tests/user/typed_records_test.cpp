@@ -3,10 +3,10 @@
 
 #include <functional>
 
-#include "frame/JsonValueCodec.hpp"
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
 #include "user/Fixtures.hpp"
-#include "user/enums/UserEnums.hpp"
-#include "user/typed/UserTyped.hpp"
+#include <QBComponentAPI/user/enums/UserEnums.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 namespace qb {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "user/enums/UserEnums.hpp"
-#include "user/typed/UserTyped.hpp"
+#include <QBComponentAPI/user/enums/UserEnums.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 namespace qb {
 namespace {

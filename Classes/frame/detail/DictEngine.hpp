@@ -5,8 +5,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "frame/DictModel.hpp"
-#include "frame/detail/NameTable.hpp"
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/frame/detail/NameTable.hpp>
 
 namespace qb::detail {
 

@@ -2,12 +2,12 @@
 // their record (QB_TYPED_DEFINE), because it brings in the parser's header.
 #pragma once
 
-#include "frame/detail/Simdjson.hpp"
+#include <QBComponentAPI/frame/detail/Simdjson.hpp>
 
 #include <cstring>
 
-#include "frame/JSONDecoder.hpp"
-#include "frame/JsonValueCodec.hpp"
+#include <QBComponentAPI/frame/JSONDecoder.hpp>
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
 
 namespace qb::detail {
 

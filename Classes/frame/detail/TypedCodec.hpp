@@ -20,8 +20,8 @@
 
 #include <cmath>
 
-#include "frame/Codable.hpp"
-#include "frame/Errors.hpp"
+#include <QBComponentAPI/frame/Codable.hpp>
+#include <QBComponentAPI/frame/Errors.hpp>
 
 namespace qb::detail {
 

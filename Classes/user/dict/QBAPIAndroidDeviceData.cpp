@@ -1,5 +1,5 @@
-#include "user/dict/QBAPIAndroidDeviceData.hpp"
+#include <QBComponentAPI/user/dict/QBAPIAndroidDeviceData.hpp>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 QB_DICT_MODEL_DEFINE(qb::QBAPIAndroidDeviceData)

@@ -1,7 +1,7 @@
-#include "user/dict/QBAPIClientConfig.hpp"
+#include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIAutoUpdate.hpp"
-#include "user/dict/QBAPILegalConfig.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIAutoUpdate.hpp>
+#include <QBComponentAPI/user/dict/QBAPILegalConfig.hpp>
 
 QB_DICT_MODEL_DEFINE(qb::QBAPIClientConfig)

@@ -1,7 +1,7 @@
-#include "user/dict/QBAPIDeviceDetailInfo.hpp"
+#include <QBComponentAPI/user/dict/QBAPIDeviceDetailInfo.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIAndroidDeviceData.hpp"
-#include "user/dict/QBAPIIosDeviceData.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIAndroidDeviceData.hpp>
+#include <QBComponentAPI/user/dict/QBAPIIosDeviceData.hpp>
 
 QB_DICT_MODEL_DEFINE(qb::QBAPIDeviceDetailInfo)

@@ -1,6 +1,6 @@
-#include "user/dict/QBAPIDeviceInfo.hpp"
+#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIDeviceDetailInfo.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIDeviceDetailInfo.hpp>
 
 QB_DICT_MODEL_DEFINE(qb::QBAPIDeviceInfo)

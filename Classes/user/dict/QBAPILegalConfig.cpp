@@ -1,5 +1,5 @@
-#include "user/dict/QBAPILegalConfig.hpp"
+#include <QBComponentAPI/user/dict/QBAPILegalConfig.hpp>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 QB_DICT_MODEL_DEFINE(qb::QBAPILegalConfig)

@@ -1,6 +1,6 @@
-#include "user/dict/QBAPILoginInfo.hpp"
+#include <QBComponentAPI/user/dict/QBAPILoginInfo.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIThirdPartyUserInfo.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIThirdPartyUserInfo.hpp>
 
 QB_DICT_MODEL_DEFINE(qb::QBAPILoginInfo)

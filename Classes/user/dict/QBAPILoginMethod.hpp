@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/DictModel.hpp"
+#include <QBComponentAPI/frame/DictModel.hpp>
 
 namespace qb {
 

@@ -1,5 +1,5 @@
-#include "user/dict/QBUserDeleteAccountMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserDeleteAccountMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserDeleteAccountMessage)

@@ -1,6 +1,6 @@
-#include "user/dict/QBUserGetConfigMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserGetConfigMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIClientConfig.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserGetConfigMessage)

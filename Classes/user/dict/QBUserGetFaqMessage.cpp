@@ -1,6 +1,6 @@
-#include "user/dict/QBUserGetFaqMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIFaq.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserGetFaqMessage)

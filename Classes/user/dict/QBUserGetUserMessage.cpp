@@ -1,7 +1,7 @@
-#include "user/dict/QBUserGetUserMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserGetUserMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIUser.hpp"
-#include "user/dict/QBAPIUserAdditionalData.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUser.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUserAdditionalData.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserGetUserMessage)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/DictModel.hpp"
-#include "user/UserEndpoints.hpp"
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
 
 namespace qb {
 

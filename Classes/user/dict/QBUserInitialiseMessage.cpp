@@ -1,10 +1,10 @@
-#include "user/dict/QBUserInitialiseMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserInitialiseMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIClientConfig.hpp"
-#include "user/dict/QBAPIDeviceInfo.hpp"
-#include "user/dict/QBAPILoginInfo.hpp"
-#include "user/dict/QBAPIUser.hpp"
-#include "user/dict/QBAPIUserAdditionalData.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
+#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
+#include <QBComponentAPI/user/dict/QBAPILoginInfo.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUser.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUserAdditionalData.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserInitialiseMessage)

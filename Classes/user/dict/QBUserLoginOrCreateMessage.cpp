@@ -1,9 +1,9 @@
-#include "user/dict/QBUserLoginOrCreateMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserLoginOrCreateMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIDeviceInfo.hpp"
-#include "user/dict/QBAPILoginInfo.hpp"
-#include "user/dict/QBAPIUser.hpp"
-#include "user/dict/QBAPIUserAdditionalData.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
+#include <QBComponentAPI/user/dict/QBAPILoginInfo.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUser.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUserAdditionalData.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserLoginOrCreateMessage)

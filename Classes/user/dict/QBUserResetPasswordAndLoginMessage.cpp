@@ -1,8 +1,8 @@
-#include "user/dict/QBUserResetPasswordAndLoginMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserResetPasswordAndLoginMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIDeviceInfo.hpp"
-#include "user/dict/QBAPIUser.hpp"
-#include "user/dict/QBAPIUserAdditionalData.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUser.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUserAdditionalData.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserResetPasswordAndLoginMessage)

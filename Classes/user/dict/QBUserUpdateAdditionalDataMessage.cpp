@@ -1,5 +1,5 @@
-#include "user/dict/QBUserUpdateAdditionalDataMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserUpdateAdditionalDataMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserUpdateAdditionalDataMessage)

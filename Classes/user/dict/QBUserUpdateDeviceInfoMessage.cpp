@@ -1,6 +1,6 @@
-#include "user/dict/QBUserUpdateDeviceInfoMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserUpdateDeviceInfoMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
-#include "user/dict/QBAPIDeviceInfo.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserUpdateDeviceInfoMessage)

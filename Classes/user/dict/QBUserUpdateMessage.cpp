@@ -1,6 +1,6 @@
-#include "user/dict/QBUserUpdateMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserUpdateMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserUpdateMessage)
 

@@ -1,5 +1,5 @@
-#include "user/dict/QBUserUpdateUserTimeZoneMessage.hpp"
+#include <QBComponentAPI/user/dict/QBUserUpdateUserTimeZoneMessage.hpp>
 
-#include "frame/detail/DictEngine.hpp"
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 QB_DICT_MESSAGE_DEFINE(qb::QBUserUpdateUserTimeZoneMessage)

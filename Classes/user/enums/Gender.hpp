@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "frame/Enum.hpp"
+#include <QBComponentAPI/frame/Enum.hpp>
 
 namespace qb {
 

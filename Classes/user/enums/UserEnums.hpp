@@ -1,8 +1,8 @@
 // Every enumeration of the account domain.
 #pragma once
 
-#include "user/enums/AutoRenewStatus.hpp"
-#include "user/enums/Gender.hpp"
-#include "user/enums/LoginAction.hpp"
-#include "user/enums/LoginType.hpp"
-#include "user/enums/VipLevel.hpp"
+#include <QBComponentAPI/user/enums/AutoRenewStatus.hpp>
+#include <QBComponentAPI/user/enums/Gender.hpp>
+#include <QBComponentAPI/user/enums/LoginAction.hpp>
+#include <QBComponentAPI/user/enums/LoginType.hpp>
+#include <QBComponentAPI/user/enums/VipLevel.hpp>

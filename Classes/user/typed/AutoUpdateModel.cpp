@@ -1,5 +1,5 @@
-#include "user/typed/AutoUpdateModel.hpp"
+#include <QBComponentAPI/user/typed/AutoUpdateModel.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::AutoUpdateModel)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/typed/AutoUpdateModel.hpp"
-#include "user/typed/LegalConfigModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/typed/AutoUpdateModel.hpp>
+#include <QBComponentAPI/user/typed/LegalConfigModel.hpp>
 
 namespace qb {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/typed/AndroidDeviceDataModel.hpp"
-#include "user/typed/IosDeviceDataModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/typed/AndroidDeviceDataModel.hpp>
+#include <QBComponentAPI/user/typed/IosDeviceDataModel.hpp>
 
 namespace qb {
 

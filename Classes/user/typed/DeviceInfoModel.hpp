@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/typed/DeviceDetailInfoModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/typed/DeviceDetailInfoModel.hpp>
 
 namespace qb {
 

@@ -1,5 +1,5 @@
-#include "user/typed/FaqModel.hpp"
+#include <QBComponentAPI/user/typed/FaqModel.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::FaqModel)

@@ -1,5 +1,5 @@
-#include "user/typed/LegalConfigModel.hpp"
+#include <QBComponentAPI/user/typed/LegalConfigModel.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::LegalConfigModel)

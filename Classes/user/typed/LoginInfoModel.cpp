@@ -1,5 +1,5 @@
-#include "user/typed/LoginInfoModel.hpp"
+#include <QBComponentAPI/user/typed/LoginInfoModel.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::LoginInfoModel)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/enums/LoginType.hpp"
-#include "user/typed/ThirdPartyUserInfoModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/enums/LoginType.hpp>
+#include <QBComponentAPI/user/typed/ThirdPartyUserInfoModel.hpp>
 
 namespace qb {
 

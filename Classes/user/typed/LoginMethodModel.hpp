@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/enums/LoginType.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/enums/LoginType.hpp>
 
 namespace qb {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/enums/Gender.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/enums/Gender.hpp>
 
 namespace qb {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
 
 namespace qb {
 

@@ -1,5 +1,5 @@
-#include "user/typed/UserCheckVerifyCodeResponse.hpp"
+#include <QBComponentAPI/user/typed/UserCheckVerifyCodeResponse.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::UserCheckVerifyCodeResponse)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/UserEndpoints.hpp"
-#include "user/typed/UserGetConfigResponse.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigResponse.hpp>
 
 namespace qb {
 

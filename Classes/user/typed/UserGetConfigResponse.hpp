@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "frame/Protocols.hpp"
-#include "user/typed/ClientConfigModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/typed/ClientConfigModel.hpp>
 
 namespace qb {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/UserEndpoints.hpp"
-#include "user/typed/UserGetFaqResponse.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/typed/UserGetFaqResponse.hpp>
 
 namespace qb {
 

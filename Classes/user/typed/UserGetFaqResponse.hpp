@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/typed/FaqModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/typed/FaqModel.hpp>
 
 namespace qb {
 

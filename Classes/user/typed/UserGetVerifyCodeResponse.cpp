@@ -1,5 +1,5 @@
-#include "user/typed/UserGetVerifyCodeResponse.hpp"
+#include <QBComponentAPI/user/typed/UserGetVerifyCodeResponse.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::UserGetVerifyCodeResponse)

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/UserEndpoints.hpp"
-#include "user/typed/DeviceInfoModel.hpp"
-#include "user/typed/LoginInfoModel.hpp"
-#include "user/typed/UserInitialiseResponse.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/typed/DeviceInfoModel.hpp>
+#include <QBComponentAPI/user/typed/LoginInfoModel.hpp>
+#include <QBComponentAPI/user/typed/UserInitialiseResponse.hpp>
 
 namespace qb {
 

@@ -2,10 +2,10 @@
 
 #include <map>
 
-#include "frame/Protocols.hpp"
-#include "user/typed/ClientConfigModel.hpp"
-#include "user/typed/UserAdditionalDataModel.hpp"
-#include "user/typed/UserModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/typed/ClientConfigModel.hpp>
+#include <QBComponentAPI/user/typed/UserAdditionalDataModel.hpp>
+#include <QBComponentAPI/user/typed/UserModel.hpp>
 
 namespace qb {
 

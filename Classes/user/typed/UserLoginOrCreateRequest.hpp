@@ -1,11 +1,11 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/UserEndpoints.hpp"
-#include "user/enums/LoginAction.hpp"
-#include "user/typed/DeviceInfoModel.hpp"
-#include "user/typed/LoginInfoModel.hpp"
-#include "user/typed/UserLoginOrCreateResponse.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/enums/LoginAction.hpp>
+#include <QBComponentAPI/user/typed/DeviceInfoModel.hpp>
+#include <QBComponentAPI/user/typed/LoginInfoModel.hpp>
+#include <QBComponentAPI/user/typed/UserLoginOrCreateResponse.hpp>
 
 namespace qb {
 

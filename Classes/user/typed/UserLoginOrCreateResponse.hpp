@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/typed/UserAdditionalDataModel.hpp"
-#include "user/typed/UserModel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/typed/UserAdditionalDataModel.hpp>
+#include <QBComponentAPI/user/typed/UserModel.hpp>
 
 namespace qb {
 

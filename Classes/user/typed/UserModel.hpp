@@ -2,9 +2,9 @@
 
 #include <map>
 
-#include "frame/Protocols.hpp"
-#include "user/enums/AutoRenewStatus.hpp"
-#include "user/enums/Gender.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/enums/AutoRenewStatus.hpp>
+#include <QBComponentAPI/user/enums/Gender.hpp>
 
 namespace qb {
 

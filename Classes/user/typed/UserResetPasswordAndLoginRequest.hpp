@@ -1,9 +1,9 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/UserEndpoints.hpp"
-#include "user/typed/DeviceInfoModel.hpp"
-#include "user/typed/UserResetPasswordAndLoginResponse.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/typed/DeviceInfoModel.hpp>
+#include <QBComponentAPI/user/typed/UserResetPasswordAndLoginResponse.hpp>
 
 namespace qb {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/UserEndpoints.hpp"
-#include "user/enums/Gender.hpp"
-#include "user/typed/UserUpdateResponse.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/enums/Gender.hpp>
+#include <QBComponentAPI/user/typed/UserUpdateResponse.hpp>
 
 namespace qb {
 

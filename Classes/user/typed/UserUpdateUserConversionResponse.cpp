@@ -1,5 +1,5 @@
-#include "user/typed/UserUpdateUserConversionResponse.hpp"
+#include <QBComponentAPI/user/typed/UserUpdateUserConversionResponse.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::UserUpdateUserConversionResponse)

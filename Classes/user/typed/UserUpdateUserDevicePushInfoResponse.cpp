@@ -1,5 +1,5 @@
-#include "user/typed/UserUpdateUserDevicePushInfoResponse.hpp"
+#include <QBComponentAPI/user/typed/UserUpdateUserDevicePushInfoResponse.hpp>
 
-#include "frame/detail/JSONDecoderImpl.hpp"
+#include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 
 QB_TYPED_DEFINE(qb::UserUpdateUserDevicePushInfoResponse)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/Protocols.hpp"
-#include "user/enums/VipLevel.hpp"
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/user/enums/VipLevel.hpp>
 
 namespace qb {
 
