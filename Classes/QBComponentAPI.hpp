@@ -1,6 +1,8 @@
 // QBComponentAPI: everything an app needs, in one include.
 #pragma once
 
+#include <QBComponentAPI/Catalogues.hpp>
+#include <QBComponentAPI/frame/Catalogue.hpp>
 #include <QBComponentAPI/frame/Codable.hpp>
 #include <QBComponentAPI/frame/Date.hpp>
 #include <QBComponentAPI/frame/DictModel.hpp>
@@ -15,7 +17,6 @@
 #include <QBComponentAPI/frame/Protocols.hpp>
 #include <QBComponentAPI/frame/QBMessageBase.hpp>
 
-#include <QBComponentAPI/user/UserEndpoints.hpp>
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/enums/UserEnums.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>

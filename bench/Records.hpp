@@ -6,7 +6,7 @@
 
 #include <QBComponentAPI/frame/DictModel.hpp>
 #include <QBComponentAPI/frame/Protocols.hpp>
-#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/UserCatalogue.hpp>
 #include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
 #include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
 #include <QBComponentAPI/user/dict/QBAPIUser.hpp>

@@ -1,8 +1,7 @@
 #include "cli/Registry.hpp"
 
 #include <QBComponentAPI/frame/detail/DictEngine.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/QBComponentAPI.hpp>
 
 namespace qb::cli {
 namespace {
@@ -29,39 +28,26 @@ JsonValue sendTyped(host::Client& client, const Arguments& args) {
   return JsonValueEncoder().encode(client.send(request));
 }
 
-template <class Message, class Request>
-Entry entry(const Endpoint& endpoint) {
-  Entry e{&endpoint, std::string(endpoint.path.substr(3)), nullptr, nullptr};
-  if constexpr (!std::is_void_v<Message>) e.dictionary = &sendDictionary<Message>;
-  if constexpr (!std::is_void_v<Request>) e.typed = &sendTyped<Request>;
+template <class A>
+Entry entry() {
+  using Message = typename A::DictionaryMessage;
+  using Request = typename A::TypedRequest;
+  Entry e{&A::endpoint, std::string(A::endpoint.path.substr(3)), nullptr, nullptr};
+  if constexpr (hasFace<Message>) e.dictionary = &sendDictionary<Message>;
+  if constexpr (hasFace<Request>) e.typed = &sendTyped<Request>;
   return e;
+}
+
+template <class... A>
+std::vector<Entry> entries(TypeList<A...>) {
+  return {entry<A>()...};
 }
 
 }  // namespace
 
 const std::vector<Entry>& registry() {
-  static const std::vector<Entry> entries{
-      entry<QBUserInitialiseMessage, UserInitialiseRequest>(user::kInitialise),
-      entry<QBUserLoginOrCreateMessage, UserLoginOrCreateRequest>(user::kLoginOrCreate),
-      entry<void, UserLoginOrCreateForWebsiteRequest>(user::kLoginOrCreateForWebsite),
-      entry<void, UserAppleLoginCallBackRequest>(user::kAppleCallback),
-      entry<QBUserGetVerifyCodeMessage, UserGetVerifyCodeRequest>(user::kGetVerifyCode),
-      entry<QBUserCheckVerifyCodeMessage, UserCheckVerifyCodeRequest>(user::kCheckVerifyCode),
-      entry<QBUserResetPasswordAndLoginMessage, UserResetPasswordAndLoginRequest>(user::kResetPasswordAndLogin),
-      entry<QBUserDeleteAccountMessage, UserDeleteAccountRequest>(user::kDeleteAccount),
-      entry<QBUserGetUserMessage, UserGetUserRequest>(user::kGetUser),
-      entry<QBUserUpdateMessage, UserUpdateRequest>(user::kUpdate),
-      entry<QBUserUpdateAdditionalDataMessage, UserUpdateAdditionalDataRequest>(user::kUpdateAdditionalData),
-      entry<QBUserUpdateDeviceInfoMessage, UserUpdateDeviceInfoRequest>(user::kUpdateDeviceInfo),
-      entry<QBUserUpdateUserConversionMessage, UserUpdateUserConversionRequest>(user::kUpdateUserConversion),
-      entry<QBUserUpdateUserDevicePushInfoMessage, UserUpdateUserDevicePushInfoRequest>(
-          user::kUpdateUserDevicePushInfo),
-      entry<QBUserUpdateUserPropertiesMessage, UserUpdateUserPropertiesRequest>(user::kUpdateUserProperties),
-      entry<QBUserUpdateUserTimeZoneMessage, void>(user::kUpdateUserTimeZone),
-      entry<QBUserGetConfigMessage, UserGetConfigRequest>(user::kGetConfig),
-      entry<QBUserGetFaqMessage, UserGetFaqRequest>(user::kGetFaq),
-  };
-  return entries;
+  static const std::vector<Entry> all = entries(AllEndpoints{});
+  return all;
 }
 
 const Entry* findEntry(std::string_view name) {

@@ -2,6 +2,7 @@
 
 #include <httplib.h>
 
+#include <algorithm>
 #include <chrono>
 #include <functional>
 #include <map>
@@ -11,7 +12,7 @@
 #include <thread>
 
 #include <QBComponentAPI/frame/Json.hpp>
-#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/QBComponentAPI.hpp>
 
 namespace qb::mock {
 namespace {
@@ -76,6 +77,49 @@ std::string text(const JsonMap& params, std::string_view key) {
   return v->is_string() ? std::string(v->get_string()) : toJson(*v);
 }
 
+// The parameters a request must carry: those that every face of the endpoint always sends (a
+// Dictionary-face message always sends its integers and its required parameters; a Typed-face request
+// its non-optional members, files aside).
+template <class Message>
+std::vector<std::string_view> alwaysSentByDictionary() {
+  std::vector<std::string_view> keys;
+  std::apply([&](const auto&... field) {
+    ([&]<class Owner, class T>(const dict::Field<Owner, T>& f) {
+      if (f.required || std::is_same_v<T, std::int64_t>) keys.push_back(f.key);
+    }(field), ...);
+  }, Message::qbParams());
+  return keys;
+}
+
+template <class Request>
+std::vector<std::string_view> alwaysSentByTyped() {
+  std::vector<std::string_view> keys;
+  std::apply([&](const auto&... key) {
+    ([&]<class K>(const K& k) {
+      if (!K::isFile && !IsOptional<typename K::Member>::value) keys.push_back(k.name);
+    }(key), ...);
+  }, Request::codingKeys);
+  return keys;
+}
+
+template <class A>
+std::vector<std::string_view> requiredParameters() {
+  using Message = typename A::DictionaryMessage;
+  using Request = typename A::TypedRequest;
+  if constexpr (!hasFace<Request>) {
+    return alwaysSentByDictionary<Message>();
+  } else if constexpr (!hasFace<Message>) {
+    return alwaysSentByTyped<Request>();
+  } else {
+    std::vector<std::string_view> both;
+    const auto typed = alwaysSentByTyped<Request>();
+    for (std::string_view key : alwaysSentByDictionary<Message>()) {
+      if (std::find(typed.begin(), typed.end(), key) != typed.end()) both.push_back(key);
+    }
+    return both;
+  }
+}
+
 }  // namespace
 
 struct Service::State {
@@ -96,11 +140,6 @@ struct Service::State {
   std::mt19937_64 random{20261122};
 
   using Handler = std::function<JsonMap(Call&)>;
-  struct Route {
-    const Endpoint* endpoint;
-    std::vector<std::string> required;
-    Handler handler;
-  };
 
   std::string newToken() { return "tok-" + std::to_string(random()); }
 
@@ -168,7 +207,9 @@ struct Service::State {
 
   JsonMap& userOf(const Call& call) { return users.at(*call.userId); }
 
-  std::vector<Route> routes() {
+  // The hand-written part of the service: what each endpoint does, by path. Which endpoints exist, their
+  // verbs, whether they need a session and which parameters they insist on come from the catalogues.
+  std::map<std::string_view, Handler> handlers() {
     auto login = [this](Call& call) {
       const JsonValue& info = call.params.at("login_info");
       if (!info.is_object()) throw Failure{400, "invalid_parameter", "login_info must be an object"};
@@ -182,9 +223,7 @@ struct Service::State {
       };
     };
     return {
-        {&user::kInitialise,
-         {"language_code", "country_code"},
-         [this](Call& call) {
+        {user::kInitialise.path, [this](Call& call) {
            const std::int64_t id = call.userId ? *call.userId : createUser(true, "");
            JsonMap reply = loginReply(id);
            reply["config"] = clientConfig();
@@ -193,31 +232,23 @@ struct Service::State {
            reply["country"] = text(call.params, "country_code");
            return reply;
          }},
-        {&user::kLoginOrCreate, {"login_info", "device_info"}, login},
-        {&user::kLoginOrCreateForWebsite, {"login_info", "device_info"}, login},
-        {&user::kAppleCallback,
-         {"code"},
-         [](Call& call) {
+        {user::kLoginOrCreate.path, login},
+        {user::kLoginOrCreateForWebsite.path, login},
+        {user::kAppleCallback.path, [](Call& call) {
            return JsonMap{{"apple_user_id", "apple." + text(call.params, "code")}};
          }},
-        {&user::kGetVerifyCode,
-         {"email"},
-         [this](Call& call) {
+        {user::kGetVerifyCode.path, [this](Call& call) {
            verifyCodes[text(call.params, "email")] = std::to_string(100000 + random() % 900000);
            return JsonMap{};
          }},
-        {&user::kCheckVerifyCode,
-         {"email", "verify_code"},
-         [this](Call& call) {
+        {user::kCheckVerifyCode.path, [this](Call& call) {
            const auto code = verifyCodes.find(text(call.params, "email"));
            if (code == verifyCodes.end() || code->second != text(call.params, "verify_code")) {
              throw Failure{400, "wrong_verify_code", "the verification code does not match"};
            }
            return JsonMap{};
          }},
-        {&user::kResetPasswordAndLogin,
-         {"email", "verify_code", "password", "device_info"},
-         [this](Call& call) {
+        {user::kResetPasswordAndLogin.path, [this](Call& call) {
            const std::string email = text(call.params, "email");
            const auto code = verifyCodes.find(email);
            if (code == verifyCodes.end() || code->second != text(call.params, "verify_code")) {
@@ -228,9 +259,7 @@ struct Service::State {
            return loginReply(
                loginFor(JsonMap{{"login_type", 3}, {"login_key", email}, {"login_password", passwords[email]}}, 0));
          }},
-        {&user::kDeleteAccount,
-         {},
-         [this](Call& call) {
+        {user::kDeleteAccount.path, [this](Call& call) {
            const std::int64_t id = *call.userId;
            users.erase(id);
            additional.erase(id);
@@ -239,18 +268,14 @@ struct Service::State {
            std::erase_if(logins, [id](const auto& l) { return l.second == id; });
            return JsonMap{};
          }},
-        {&user::kGetUser,
-         {},
-         [this](Call& call) {
+        {user::kGetUser.path, [this](Call& call) {
            JsonMap user;
            for (const auto& member : userOf(call)) {
              if (!member.key().starts_with("_")) user[member.key()] = member.value();
            }
            return JsonMap{{"user", user}, {"user_additional_data", additional[*call.userId]}};
          }},
-        {&user::kUpdate,
-         {},
-         [this](Call& call) {
+        {user::kUpdate.path, [this](Call& call) {
            JsonMap& user = userOf(call);
            if (call.params.contains("nickname")) user["nickname"] = call.params.at("nickname");
            if (call.params.contains("gender")) user["gender"] = std::atoll(text(call.params, "gender").c_str());
@@ -263,32 +288,24 @@ struct Service::State {
            if (user.contains("avatar_url")) reply["avatar_url"] = user["avatar_url"];
            return reply;
          }},
-        {&user::kUpdateAdditionalData,
-         {},
-         [this](Call& call) {
+        {user::kUpdateAdditionalData.path, [this](Call& call) {
            for (const char* key : {"email_notification_enabled", "grows_price_label"}) {
              if (call.params.contains(key)) additional[*call.userId][key] = call.params.at(key);
            }
            return JsonMap{};
          }},
-        {&user::kUpdateDeviceInfo, {"device_info"}, store("device")},
-        {&user::kUpdateUserConversion, {"is_organic"}, store("conversion")},
-        {&user::kUpdateUserDevicePushInfo, {}, store("push")},
-        {&user::kUpdateUserProperties,
-         {"key", "value"},
-         [this](Call& call) {
+        {user::kUpdateDeviceInfo.path, store("device")},
+        {user::kUpdateUserConversion.path, store("conversion")},
+        {user::kUpdateUserDevicePushInfo.path, store("push")},
+        {user::kUpdateUserProperties.path, [this](Call& call) {
            userOf(call)["properties"].as_object()[text(call.params, "key")] = text(call.params, "value");
            return JsonMap{};
          }},
-        {&user::kUpdateUserTimeZone, {"time_zone"}, store("time_zone")},
-        {&user::kGetConfig,
-         {"language_code", "country_code"},
-         [](Call&) {
+        {user::kUpdateUserTimeZone.path, store("time_zone")},
+        {user::kGetConfig.path, [](Call&) {
            return JsonMap{{"config", clientConfig()}, {"other_configs", JsonMap{{"feature_x", true}}}};
          }},
-        {&user::kGetFaq,
-         {"language_code", "device_type"},
-         [](Call&) {
+        {user::kGetFaq.path, [](Call&) {
            JsonList faqs;
            const char* entries[][2] = {{"How do I identify a plant?", "Take a clear photo of a leaf or flower."},
                                        {"Can I use the app offline?", "Identification needs a connection."},
@@ -336,39 +353,52 @@ struct Service::State {
     return call;
   }
 
-  void install() {
-    for (Route& route : routes()) {
-      const std::string path = "/" + std::string(route.endpoint->path);
-      auto handle = [this, route](const httplib::Request& req, httplib::Response& res) {
-        ++requests;
-        try {
-          Call call = parse(req);
-          std::lock_guard lock(mutex);
-          if (!call.token.empty()) {
-            const auto found = tokens.find(call.token);
-            if (found == tokens.end()) throw Failure{401, "invalid_token", "the access token is not valid"};
-            call.userId = found->second;
-          }
-          if (route.endpoint->mustAuth() && !call.userId) {
-            throw Failure{401, "auth_required", "this endpoint needs an access token"};
-          }
-          for (const auto& key : route.required) {
-            const JsonValue* v = call.params.if_contains(key);
-            if (!v || v->is_null()) throw Failure{400, "missing_parameter", key + " is required"};
-          }
-          answer(res, 200, route.handler(call));
-        } catch (const Failure& f) {
-          answer(res, f.status, JsonMap{{"error", f.code}, {"message", f.message}});
-        } catch (const std::exception& e) {
-          answer(res, 400, JsonMap{{"error", "bad_request"}, {"message", e.what()}});
+  // One endpoint of a catalogue: the route, with its hand-written handler.
+  template <class A>
+  void installRoute(std::map<std::string_view, Handler>& all) {
+    const Endpoint& endpoint = A::endpoint;
+    const auto found = all.find(endpoint.path);
+    if (found == all.end()) throw std::logic_error("qbapi-mock has no handler for " + std::string(endpoint.path));
+    Handler handler = std::move(found->second);
+    all.erase(found);
+    auto handle = [this, &endpoint, handler = std::move(handler), required = requiredParameters<A>()](
+                      const httplib::Request& req, httplib::Response& res) {
+      ++requests;
+      try {
+        Call call = parse(req);
+        std::lock_guard lock(mutex);
+        if (!call.token.empty()) {
+          const auto token = tokens.find(call.token);
+          if (token == tokens.end()) throw Failure{401, "invalid_token", "the access token is not valid"};
+          call.userId = token->second;
         }
-      };
-      if (route.endpoint->verb == HttpVerb::get) {
-        server.Get(path, handle);
-      } else {
-        server.Post(path, handle);
+        if (endpoint.mustAuth() && !call.userId) {
+          throw Failure{401, "auth_required", "this endpoint needs an access token"};
+        }
+        for (const auto& key : required) {
+          const JsonValue* v = call.params.if_contains(key);
+          if (!v || v->is_null()) throw Failure{400, "missing_parameter", std::string(key) + " is required"};
+        }
+        answer(res, 200, handler(call));
+      } catch (const Failure& f) {
+        answer(res, f.status, JsonMap{{"error", f.code}, {"message", f.message}});
+      } catch (const std::exception& e) {
+        answer(res, 400, JsonMap{{"error", "bad_request"}, {"message", e.what()}});
       }
+    };
+    const std::string path = "/" + std::string(endpoint.path);
+    if (endpoint.verb == HttpVerb::get) {
+      server.Get(path, std::move(handle));
+    } else {
+      server.Post(path, std::move(handle));
     }
+  }
+
+  void install() {
+    auto all = handlers();
+    forEachType(AllEndpoints{}, [&]<class A>() { installRoute<A>(all); });
+    if (!all.empty()) throw std::logic_error("qbapi-mock has a handler for " + std::string(all.begin()->first) +
+                                             ", which no catalogue lists");
     server.Get(R"(/_mock/verify_codes/(.+))", [this](const httplib::Request& req, httplib::Response& res) {
       std::lock_guard lock(mutex);
       const auto code = verifyCodes.find(urlDecode(req.matches[1].str()));

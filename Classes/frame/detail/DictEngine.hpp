@@ -287,3 +287,24 @@ void messageParseResponse(Message& message, Map& reply) {
     ::qb::detail::messageParseResponse(*this, reply);                                                  \
     return *this;                                                                                      \
   }
+
+// Defines every Dictionary-face model and message of a domain catalogue (see frame/Catalogue.hpp), and
+// checks that each message declares the endpoint of its catalogue line. Expanded once per domain, at
+// namespace scope in a .cpp file that includes the domain's Dictionary-face umbrella header.
+#define QB_DICT_CHECK_API_BOTH_(constant, path, verb, auth, Message, Request) \
+  QB_DICT_CHECK_API_DICT_(constant, path, verb, auth, Message)
+#define QB_DICT_CHECK_API_DICT_(constant, path, verb, auth, Message)     \
+  static_assert(::qb::sameEndpoint(::qb::Message::kEndpoint, constant), \
+                #Message " declares another endpoint than its catalogue line " #constant);
+#define QB_DICT_DEFINE_API_BOTH_(constant, path, verb, auth, Message, Request) QB_DICT_MESSAGE_DEFINE(qb::Message)
+#define QB_DICT_DEFINE_API_DICT_(constant, path, verb, auth, Message) QB_DICT_MESSAGE_DEFINE(qb::Message)
+#define QB_DICT_SKIP_API_TYPED_(constant, path, verb, auth, Request)
+#define QB_DICT_DEFINE_RECORD_BOTH_(Dictionary, Typed) QB_DICT_MODEL_DEFINE(qb::Dictionary)
+#define QB_DICT_DEFINE_RECORD_DICT_(Dictionary) QB_DICT_MODEL_DEFINE(qb::Dictionary)
+#define QB_DICT_SKIP_RECORD_TYPED_(Typed)
+#define QB_DICT_DEFINE_DOMAIN(domain, ENDPOINTS, RECORDS)                                          \
+  namespace qb::domain {                                                                           \
+  ENDPOINTS(QB_DICT_CHECK_API_BOTH_, QB_DICT_CHECK_API_DICT_, QB_DICT_SKIP_API_TYPED_)             \
+  }                                                                                                \
+  ENDPOINTS(QB_DICT_DEFINE_API_BOTH_, QB_DICT_DEFINE_API_DICT_, QB_DICT_SKIP_API_TYPED_)           \
+  RECORDS(QB_DICT_DEFINE_RECORD_BOTH_, QB_DICT_DEFINE_RECORD_DICT_, QB_DICT_SKIP_RECORD_TYPED_)

@@ -202,3 +202,25 @@ T JSONDecoder::decode(std::string_view json) const {
 }
 
 }  // namespace qb
+
+// Instantiates qb::JSONDecoder for every Typed-face model and response of a domain catalogue (see
+// frame/Catalogue.hpp), and checks that each request declares the endpoint of its catalogue line.
+// Expanded once per domain, at namespace scope in a .cpp file that includes the domain's Typed-face
+// umbrella header: the parser's header is then compiled once per domain, not once per record.
+#define QB_TYPED_CHECK_API_BOTH_(constant, path, verb, auth, Message, Request) \
+  QB_TYPED_CHECK_API_TYPED_(constant, path, verb, auth, Request)
+#define QB_TYPED_CHECK_API_TYPED_(constant, path, verb, auth, Request)   \
+  static_assert(::qb::sameEndpoint(::qb::Request::kEndpoint, constant), \
+                #Request " declares another endpoint than its catalogue line " #constant);
+#define QB_TYPED_DEFINE_API_BOTH_(constant, path, verb, auth, Message, Request) QB_TYPED_DEFINE(qb::Request::Response)
+#define QB_TYPED_DEFINE_API_TYPED_(constant, path, verb, auth, Request) QB_TYPED_DEFINE(qb::Request::Response)
+#define QB_TYPED_SKIP_API_DICT_(constant, path, verb, auth, Message)
+#define QB_TYPED_DEFINE_RECORD_BOTH_(Dictionary, Typed) QB_TYPED_DEFINE(qb::Typed)
+#define QB_TYPED_DEFINE_RECORD_TYPED_(Typed) QB_TYPED_DEFINE(qb::Typed)
+#define QB_TYPED_SKIP_RECORD_DICT_(Dictionary)
+#define QB_TYPED_DEFINE_DOMAIN(domain, ENDPOINTS, RECORDS)                                          \
+  namespace qb::domain {                                                                            \
+  ENDPOINTS(QB_TYPED_CHECK_API_BOTH_, QB_TYPED_SKIP_API_DICT_, QB_TYPED_CHECK_API_TYPED_)           \
+  }                                                                                                 \
+  ENDPOINTS(QB_TYPED_DEFINE_API_BOTH_, QB_TYPED_SKIP_API_DICT_, QB_TYPED_DEFINE_API_TYPED_)         \
+  RECORDS(QB_TYPED_DEFINE_RECORD_BOTH_, QB_TYPED_SKIP_RECORD_DICT_, QB_TYPED_DEFINE_RECORD_TYPED_)

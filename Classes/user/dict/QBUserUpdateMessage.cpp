@@ -1,9 +1,5 @@
 #include <QBComponentAPI/user/dict/QBUserUpdateMessage.hpp>
 
-#include <QBComponentAPI/frame/detail/DictEngine.hpp>
-
-QB_DICT_MESSAGE_DEFINE(qb::QBUserUpdateMessage)
-
 std::vector<qb::QBMimeBody> qb::QBUserUpdateMessage::mimeBodies() const {
   auto data = avatar();
   if (!data) return {};

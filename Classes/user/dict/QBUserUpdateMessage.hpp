@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QBComponentAPI/frame/DictModel.hpp>
-#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/UserCatalogue.hpp>
 
 namespace qb {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QBComponentAPI/frame/Protocols.hpp>
-#include <QBComponentAPI/user/UserEndpoints.hpp>
+#include <QBComponentAPI/user/UserCatalogue.hpp>
 #include <QBComponentAPI/user/typed/UserGetConfigResponse.hpp>
 
 namespace qb {

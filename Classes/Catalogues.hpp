@@ -1,0 +1,13 @@
+// Every domain's catalogue together: all endpoints and all records of the library, for tools that list
+// or walk them (see frame/Catalogue.hpp). The face classes named here are only declared; include the
+// umbrella header <QBComponentAPI/QBComponentAPI.hpp> to use them.
+#pragma once
+
+#include <QBComponentAPI/user/UserCatalogue.hpp>
+
+namespace qb {
+
+using AllEndpoints = Concat<user::Endpoints>;
+using AllRecords = Concat<user::Records>;
+
+}  // namespace qb

@@ -1,8 +1,0 @@
-#include <QBComponentAPI/user/dict/QBUserResetPasswordAndLoginMessage.hpp>
-
-#include <QBComponentAPI/frame/detail/DictEngine.hpp>
-#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
-#include <QBComponentAPI/user/dict/QBAPIUser.hpp>
-#include <QBComponentAPI/user/dict/QBAPIUserAdditionalData.hpp>
-
-QB_DICT_MESSAGE_DEFINE(qb::QBUserResetPasswordAndLoginMessage)
