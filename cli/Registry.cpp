@@ -1,7 +1,7 @@
 #include "cli/Registry.hpp"
 
-#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 namespace qb::cli {
 namespace {

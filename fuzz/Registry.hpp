@@ -3,17 +3,15 @@
 // record, so no new target is needed.
 #pragma once
 
+#include <QBComponentAPI/QBComponentAPI.hpp>
 #include <cstddef>
 #include <cstdint>
-
-#include <QBComponentAPI/QBComponentAPI.hpp>
 
 namespace qb::fuzz {
 
 using DictModels = DictionaryModelsOf<AllRecords>::type;
 using DictMessages = DictionaryMessagesOf<AllEndpoints>::type;
-using TypedRecords =
-    Concat<TypedModelsOf<AllRecords>::type, ResponsesOf<TypedRequestsOf<AllEndpoints>::type>::type>;
+using TypedRecords = Concat<TypedModelsOf<AllRecords>::type, ResponsesOf<TypedRequestsOf<AllEndpoints>::type>::type>;
 
 // Calls f.template operator()<T>() for the type at `selector` modulo the list's size.
 template <class... T, class F>

@@ -2,6 +2,8 @@
 
 #include <httplib.h>
 
+#include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
 #include <algorithm>
 #include <chrono>
 #include <functional>
@@ -10,9 +12,6 @@
 #include <random>
 #include <stdexcept>
 #include <thread>
-
-#include <QBComponentAPI/frame/Json.hpp>
-#include <QBComponentAPI/QBComponentAPI.hpp>
 
 namespace qb::mock {
 namespace {
@@ -83,22 +82,30 @@ std::string text(const JsonMap& params, std::string_view key) {
 template <class Message>
 std::vector<std::string_view> alwaysSentByDictionary() {
   std::vector<std::string_view> keys;
-  std::apply([&](const auto&... field) {
-    ([&]<class Owner, class T>(const dict::Field<Owner, T>& f) {
-      if (f.required || std::is_same_v<T, std::int64_t>) keys.push_back(f.key);
-    }(field), ...);
-  }, Message::qbParams());
+  std::apply(
+      [&](const auto&... field) {
+        (
+            [&]<class Owner, class T>(const dict::Field<Owner, T>& f) {
+              if (f.required || std::is_same_v<T, std::int64_t>) keys.push_back(f.key);
+            }(field),
+            ...);
+      },
+      Message::qbParams());
   return keys;
 }
 
 template <class Request>
 std::vector<std::string_view> alwaysSentByTyped() {
   std::vector<std::string_view> keys;
-  std::apply([&](const auto&... key) {
-    ([&]<class K>(const K& k) {
-      if (!K::isFile && !IsOptional<typename K::Member>::value) keys.push_back(k.name);
-    }(key), ...);
-  }, Request::codingKeys);
+  std::apply(
+      [&](const auto&... key) {
+        (
+            [&]<class K>(const K& k) {
+              if (!K::isFile && !IsOptional<typename K::Member>::value) keys.push_back(k.name);
+            }(key),
+            ...);
+      },
+      Request::codingKeys);
   return keys;
 }
 
@@ -223,7 +230,8 @@ struct Service::State {
       };
     };
     return {
-        {user::kInitialise.path, [this](Call& call) {
+        {user::kInitialise.path,
+         [this](Call& call) {
            const std::int64_t id = call.userId ? *call.userId : createUser(true, "");
            JsonMap reply = loginReply(id);
            reply["config"] = clientConfig();
@@ -234,21 +242,25 @@ struct Service::State {
          }},
         {user::kLoginOrCreate.path, login},
         {user::kLoginOrCreateForWebsite.path, login},
-        {user::kAppleCallback.path, [](Call& call) {
+        {user::kAppleCallback.path,
+         [](Call& call) {
            return JsonMap{{"apple_user_id", "apple." + text(call.params, "code")}};
          }},
-        {user::kGetVerifyCode.path, [this](Call& call) {
+        {user::kGetVerifyCode.path,
+         [this](Call& call) {
            verifyCodes[text(call.params, "email")] = std::to_string(100000 + random() % 900000);
            return JsonMap{};
          }},
-        {user::kCheckVerifyCode.path, [this](Call& call) {
+        {user::kCheckVerifyCode.path,
+         [this](Call& call) {
            const auto code = verifyCodes.find(text(call.params, "email"));
            if (code == verifyCodes.end() || code->second != text(call.params, "verify_code")) {
              throw Failure{400, "wrong_verify_code", "the verification code does not match"};
            }
            return JsonMap{};
          }},
-        {user::kResetPasswordAndLogin.path, [this](Call& call) {
+        {user::kResetPasswordAndLogin.path,
+         [this](Call& call) {
            const std::string email = text(call.params, "email");
            const auto code = verifyCodes.find(email);
            if (code == verifyCodes.end() || code->second != text(call.params, "verify_code")) {
@@ -259,7 +271,8 @@ struct Service::State {
            return loginReply(
                loginFor(JsonMap{{"login_type", 3}, {"login_key", email}, {"login_password", passwords[email]}}, 0));
          }},
-        {user::kDeleteAccount.path, [this](Call& call) {
+        {user::kDeleteAccount.path,
+         [this](Call& call) {
            const std::int64_t id = *call.userId;
            users.erase(id);
            additional.erase(id);
@@ -268,14 +281,16 @@ struct Service::State {
            std::erase_if(logins, [id](const auto& l) { return l.second == id; });
            return JsonMap{};
          }},
-        {user::kGetUser.path, [this](Call& call) {
+        {user::kGetUser.path,
+         [this](Call& call) {
            JsonMap user;
            for (const auto& member : userOf(call)) {
              if (!member.key().starts_with("_")) user[member.key()] = member.value();
            }
            return JsonMap{{"user", user}, {"user_additional_data", additional[*call.userId]}};
          }},
-        {user::kUpdate.path, [this](Call& call) {
+        {user::kUpdate.path,
+         [this](Call& call) {
            JsonMap& user = userOf(call);
            if (call.params.contains("nickname")) user["nickname"] = call.params.at("nickname");
            if (call.params.contains("gender")) user["gender"] = std::atoll(text(call.params, "gender").c_str());
@@ -288,7 +303,8 @@ struct Service::State {
            if (user.contains("avatar_url")) reply["avatar_url"] = user["avatar_url"];
            return reply;
          }},
-        {user::kUpdateAdditionalData.path, [this](Call& call) {
+        {user::kUpdateAdditionalData.path,
+         [this](Call& call) {
            for (const char* key : {"email_notification_enabled", "grows_price_label"}) {
              if (call.params.contains(key)) additional[*call.userId][key] = call.params.at(key);
            }
@@ -297,15 +313,18 @@ struct Service::State {
         {user::kUpdateDeviceInfo.path, store("device")},
         {user::kUpdateUserConversion.path, store("conversion")},
         {user::kUpdateUserDevicePushInfo.path, store("push")},
-        {user::kUpdateUserProperties.path, [this](Call& call) {
+        {user::kUpdateUserProperties.path,
+         [this](Call& call) {
            userOf(call)["properties"].as_object()[text(call.params, "key")] = text(call.params, "value");
            return JsonMap{};
          }},
         {user::kUpdateUserTimeZone.path, store("time_zone")},
-        {user::kGetConfig.path, [](Call&) {
+        {user::kGetConfig.path,
+         [](Call&) {
            return JsonMap{{"config", clientConfig()}, {"other_configs", JsonMap{{"feature_x", true}}}};
          }},
-        {user::kGetFaq.path, [](Call&) {
+        {user::kGetFaq.path,
+         [](Call&) {
            JsonList faqs;
            const char* entries[][2] = {{"How do I identify a plant?", "Take a clear photo of a leaf or flower."},
                                        {"Can I use the app offline?", "Identification needs a connection."},
@@ -397,8 +416,9 @@ struct Service::State {
   void install() {
     auto all = handlers();
     forEachType(AllEndpoints{}, [&]<class A>() { installRoute<A>(all); });
-    if (!all.empty()) throw std::logic_error("qbapi-mock has a handler for " + std::string(all.begin()->first) +
-                                             ", which no catalogue lists");
+    if (!all.empty())
+      throw std::logic_error("qbapi-mock has a handler for " + std::string(all.begin()->first) +
+                             ", which no catalogue lists");
     server.Get(R"(/_mock/verify_codes/(.+))", [this](const httplib::Request& req, httplib::Response& res) {
       std::lock_guard lock(mutex);
       const auto code = verifyCodes.find(urlDecode(req.matches[1].str()));

@@ -19,11 +19,10 @@
 // the request's `Response` and needs no line of its own.
 #pragma once
 
+#include <QBComponentAPI/frame/Endpoint.hpp>
 #include <cstddef>
 #include <string_view>
 #include <type_traits>
-
-#include <QBComponentAPI/frame/Endpoint.hpp>
 
 namespace qb {
 
@@ -112,18 +111,18 @@ constexpr void forEachType(TypeList<T...>, F&& f) {
 // --- Expansion callbacks -----------------------------------------------------------------------------
 
 #define QB_CATALOGUE_FORWARD_BOTH_(constant, path, verb, auth, Message, Request) \
-  class Message;                                                                \
+  class Message;                                                                 \
   struct Request;
 #define QB_CATALOGUE_FORWARD_DICT_(constant, path, verb, auth, Message) class Message;
 #define QB_CATALOGUE_FORWARD_TYPED_(constant, path, verb, auth, Request) struct Request;
 #define QB_CATALOGUE_FORWARD_RECORD_BOTH_(Dictionary, Typed) \
-  class Dictionary;                                           \
+  class Dictionary;                                          \
   struct Typed;
 #define QB_CATALOGUE_FORWARD_RECORD_DICT_(Dictionary) class Dictionary;
 #define QB_CATALOGUE_FORWARD_RECORD_TYPED_(Typed) struct Typed;
 
-#define QB_CATALOGUE_ENDPOINT_(constant, path, verb, auth, Message, Request)                       \
-  inline constexpr ::qb::Endpoint constant{path, ::qb::HttpVerb::verb, ::qb::Auth::auth,         \
+#define QB_CATALOGUE_ENDPOINT_(constant, path, verb, auth, Message, Request)             \
+  inline constexpr ::qb::Endpoint constant{path, ::qb::HttpVerb::verb, ::qb::Auth::auth, \
                                            ::qb::facesOf<Message, Request>()};
 #define QB_CATALOGUE_ENDPOINT_BOTH_(constant, path, verb, auth, Message, Request) \
   QB_CATALOGUE_ENDPOINT_(constant, path, verb, auth, ::qb::Message, ::qb::Request)
@@ -149,21 +148,20 @@ constexpr void forEachType(TypeList<T...>, F&& f) {
 // Declares, in namespace qb::<domain>: the endpoint constants (kGetConfig, ...), `Endpoints` (a TypeList
 // of qb::Api) and `Records` (a TypeList of qb::Record), and `kClassNames`, the name of every class of
 // the catalogue (messages, requests, records), for checks against the source tree.
-#define QB_CATALOGUE(domain, ENDPOINTS, RECORDS)                                                         \
-  namespace qb {                                                                                          \
-  ENDPOINTS(QB_CATALOGUE_FORWARD_BOTH_, QB_CATALOGUE_FORWARD_DICT_, QB_CATALOGUE_FORWARD_TYPED_)          \
-  RECORDS(QB_CATALOGUE_FORWARD_RECORD_BOTH_, QB_CATALOGUE_FORWARD_RECORD_DICT_,                           \
-          QB_CATALOGUE_FORWARD_RECORD_TYPED_)                                                             \
-  namespace domain {                                                                                      \
-  ENDPOINTS(QB_CATALOGUE_ENDPOINT_BOTH_, QB_CATALOGUE_ENDPOINT_DICT_, QB_CATALOGUE_ENDPOINT_TYPED_)       \
-  using Endpoints = ::qb::detail::WithoutEnd<ENDPOINTS(QB_CATALOGUE_API_BOTH_, QB_CATALOGUE_API_DICT_,     \
-                                                       QB_CATALOGUE_API_TYPED_)::qb::detail::EndOfList>;  \
-  using Records = ::qb::detail::WithoutEnd<RECORDS(QB_CATALOGUE_RECORD_BOTH_, QB_CATALOGUE_RECORD_DICT_,   \
-                                                   QB_CATALOGUE_RECORD_TYPED_)::qb::detail::EndOfList>;   \
-  inline constexpr std::string_view kClassNames[] = {                                                     \
-      ENDPOINTS(QB_CATALOGUE_CLASS_NAMES_BOTH_, QB_CATALOGUE_CLASS_NAME_ONE_, QB_CATALOGUE_CLASS_NAME_ONE_) \
-      RECORDS(QB_CATALOGUE_RECORD_NAME_BOTH_, QB_CATALOGUE_RECORD_NAME_ONE_, QB_CATALOGUE_RECORD_NAME_ONE_)}; \
-  }                                                                                                       \
+#define QB_CATALOGUE(domain, ENDPOINTS, RECORDS)                                                                    \
+  namespace qb {                                                                                                    \
+  ENDPOINTS(QB_CATALOGUE_FORWARD_BOTH_, QB_CATALOGUE_FORWARD_DICT_, QB_CATALOGUE_FORWARD_TYPED_)                    \
+  RECORDS(QB_CATALOGUE_FORWARD_RECORD_BOTH_, QB_CATALOGUE_FORWARD_RECORD_DICT_, QB_CATALOGUE_FORWARD_RECORD_TYPED_) \
+  namespace domain {                                                                                                \
+  ENDPOINTS(QB_CATALOGUE_ENDPOINT_BOTH_, QB_CATALOGUE_ENDPOINT_DICT_, QB_CATALOGUE_ENDPOINT_TYPED_)                 \
+  using Endpoints = ::qb::detail::WithoutEnd<ENDPOINTS(QB_CATALOGUE_API_BOTH_, QB_CATALOGUE_API_DICT_,              \
+                                                       QB_CATALOGUE_API_TYPED_)::qb::detail::EndOfList>;            \
+  using Records = ::qb::detail::WithoutEnd<RECORDS(QB_CATALOGUE_RECORD_BOTH_, QB_CATALOGUE_RECORD_DICT_,            \
+                                                   QB_CATALOGUE_RECORD_TYPED_)::qb::detail::EndOfList>;             \
+  inline constexpr std::string_view kClassNames[] = {                                                               \
+      ENDPOINTS(QB_CATALOGUE_CLASS_NAMES_BOTH_, QB_CATALOGUE_CLASS_NAME_ONE_, QB_CATALOGUE_CLASS_NAME_ONE_)         \
+          RECORDS(QB_CATALOGUE_RECORD_NAME_BOTH_, QB_CATALOGUE_RECORD_NAME_ONE_, QB_CATALOGUE_RECORD_NAME_ONE_)};   \
+  }                                                                                                                 \
   }
 
 namespace qb {
@@ -184,15 +182,14 @@ template <class Records>
 struct DictionaryModelsOf;
 template <class... R>
 struct DictionaryModelsOf<TypeList<R...>> {
-  using type = Concat<std::conditional_t<hasFace<typename R::Dictionary>, TypeList<typename R::Dictionary>,
-                                         TypeList<>>...>;
+  using type =
+      Concat<std::conditional_t<hasFace<typename R::Dictionary>, TypeList<typename R::Dictionary>, TypeList<>>...>;
 };
 template <class Records>
 struct TypedModelsOf;
 template <class... R>
 struct TypedModelsOf<TypeList<R...>> {
-  using type =
-      Concat<std::conditional_t<hasFace<typename R::Typed>, TypeList<typename R::Typed>, TypeList<>>...>;
+  using type = Concat<std::conditional_t<hasFace<typename R::Typed>, TypeList<typename R::Typed>, TypeList<>>...>;
 };
 template <class Endpoints>
 struct DictionaryMessagesOf;
@@ -205,8 +202,8 @@ template <class Endpoints>
 struct TypedRequestsOf;
 template <class... A>
 struct TypedRequestsOf<TypeList<A...>> {
-  using type = Concat<
-      std::conditional_t<hasFace<typename A::TypedRequest>, TypeList<typename A::TypedRequest>, TypeList<>>...>;
+  using type =
+      Concat<std::conditional_t<hasFace<typename A::TypedRequest>, TypeList<typename A::TypedRequest>, TypeList<>>...>;
 };
 template <class Requests>
 struct ResponsesOf;
