@@ -1,0 +1,33 @@
+// Every Dictionary-face class of the content catalogue.
+#pragma once
+
+#include <QBComponentAPI/cms/CmsCatalogue.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsArticle.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsContent.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsDisease.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsImage.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsLayout.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsMain.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsName.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsNameList.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsStaticUrl.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsTag.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsTagColors.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsTagString.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsTagValue.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsTaxonomyName.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsTitle.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICmsVideo.hpp>
+#include <QBComponentAPI/cms/dict/QBAPICopyright.hpp>
+#include <QBComponentAPI/cms/dict/QBAPIDiagnoseDetect.hpp>
+#include <QBComponentAPI/cms/dict/QBAPIDiagnoseDetectRegion.hpp>
+#include <QBComponentAPI/cms/dict/QBAPISimpleCmsDisease.hpp>
+#include <QBComponentAPI/cms/dict/QBAPISimpleCmsName.hpp>
+#include <QBComponentAPI/cms/dict/QBAPITaxonomyName.hpp>
+#include <QBComponentAPI/cms/dict/QBCmsGetCmsArticlesMessage.hpp>
+#include <QBComponentAPI/cms/dict/QBCmsGetCmsNameListMessage.hpp>
+#include <QBComponentAPI/cms/dict/QBCmsGetCmsNameListsMessage.hpp>
+#include <QBComponentAPI/cms/dict/QBCmsGetCmsNameMessage.hpp>
+#include <QBComponentAPI/cms/dict/QBCmsGetStaticContentMessage.hpp>
+#include <QBComponentAPI/cms/dict/QBCmsGetStaticUrlMessage.hpp>
+#include <QBComponentAPI/cms/dict/QBCmsUserFeedbackMessage.hpp>
