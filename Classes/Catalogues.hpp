@@ -3,11 +3,20 @@
 // umbrella header <QBComponentAPI/QBComponentAPI.hpp> to use them.
 #pragma once
 
+#include <span>
+#include <string_view>
+
+#include <QBComponentAPI/cms/CmsCatalogue.hpp>
+#include <QBComponentAPI/share/ShareCatalogue.hpp>
 #include <QBComponentAPI/user/UserCatalogue.hpp>
 
 namespace qb {
 
 using AllEndpoints = Concat<user::Endpoints>;
 using AllRecords = Concat<user::Records>;
+
+// The name of every class of every catalogue, domain by domain.
+inline constexpr std::span<const std::string_view> kCatalogueClassNames[] = {user::kClassNames, cms::kClassNames,
+                                                                            share::kClassNames};
 
 }  // namespace qb

@@ -178,10 +178,12 @@ TEST(Catalogue, BothFacesOfEveryRecordAndEndpointUseTheSameKeys) {
 
 std::set<std::string> cataloguedNames() {
   std::set<std::string> names;
-  for (std::string_view name : user::kClassNames) {
-    names.emplace(name);
-    // A request's response lives in its own file beside it.
-    if (name.ends_with("Request")) names.insert(std::string(name.substr(0, name.size() - 7)) + "Response");
+  for (const auto domain : kCatalogueClassNames) {
+    for (std::string_view name : domain) {
+      names.emplace(name);
+      // A request's response lives in its own file beside it.
+      if (name.ends_with("Request")) names.insert(std::string(name.substr(0, name.size() - 7)) + "Response");
+    }
   }
   return names;
 }
