@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
 #include <QBComponentAPI/frame/Protocols.hpp>
 #include <QBComponentAPI/frame/QBMessageBase.hpp>
@@ -17,11 +18,12 @@
 
 namespace qb::host {
 
-// Every failure of the host itself derives from HostError. ParameterCheckFailException, DecodingError,
-// EncodingError and JsonTypeError from the library reach the caller unchanged.
-class HostError : public std::runtime_error {
+// Every failure of the host itself derives from HostError, and so from qb::Error like the library's own
+// errors (ParameterCheckFailException, DecodingError, EncodingError, JsonTypeError), which reach the
+// caller unchanged: one `catch (const qb::Error&)` catches everything a send can throw but std::bad_alloc.
+class HostError : public qb::Error {
  public:
-  using std::runtime_error::runtime_error;
+  using qb::Error::Error;
 };
 // The service answered with a status other than 2xx.
 class HttpError : public HostError {

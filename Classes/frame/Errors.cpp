@@ -54,7 +54,7 @@ std::string renderError(std::string_view kind, const CodingPath& path, const std
 }  // namespace
 
 DecodingError::DecodingError(Kind kind, CodingPath path, std::string debugDescription)
-    : std::runtime_error(renderError(kindName(kind), path, debugDescription)),
+    : Error(renderError(kindName(kind), path, debugDescription)),
       kind_(kind),
       path_(std::move(path)),
       description_(std::move(debugDescription)) {}
@@ -64,7 +64,7 @@ DecodingError DecodingError::prefixed(CodingPathElement element) const {
 }
 
 EncodingError::EncodingError(CodingPath path, std::string debugDescription)
-    : std::runtime_error(renderError("invalidValue", path, debugDescription)),
+    : Error(renderError("invalidValue", path, debugDescription)),
       path_(std::move(path)),
       description_(std::move(debugDescription)) {}
 

@@ -2,25 +2,32 @@
 #pragma once
 
 #include <cstdint>
-#include <exception>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
 namespace qb {
 
-// Raised by the Dictionary face when a required field or parameter is absent (or JSON null).
-// `reason()` is "<field> is missing in model <Model>"; `name()` is always "ParameterCheckFailException".
-class ParameterCheckFailException : public std::exception {
+// The one base of every error the library and its host throw: `catch (const qb::Error&)` catches them all,
+// and each derived type keeps its own accessors.
+class Error : public std::runtime_error {
  public:
-  explicit ParameterCheckFailException(std::string reason) : reason_(std::move(reason)) {}
+  using std::runtime_error::runtime_error;
+};
+
+// Raised by the Dictionary face when a required field or parameter is absent (or JSON null).
+// `reason()` is "<field> is missing in model <Model>", and what() is exactly the reason; `name()` is
+// always "ParameterCheckFailException".
+class ParameterCheckFailException : public Error {
+ public:
+  explicit ParameterCheckFailException(std::string reason) : Error(reason), reason_(std::move(reason)) {}
   static ParameterCheckFailException missing(std::string_view field, std::string_view model);
 
   std::string_view name() const noexcept { return "ParameterCheckFailException"; }
   const std::string& reason() const noexcept { return reason_; }
-  const char* what() const noexcept override { return reason_.c_str(); }
 
  private:
   std::string reason_;
@@ -28,9 +35,9 @@ class ParameterCheckFailException : public std::exception {
 
 // A JSON value used as something it is not: a null or a list read as an integer, a text read as a
 // nested record, a null element in a list of records. Raised by the Dictionary face.
-class JsonTypeError : public std::runtime_error {
+class JsonTypeError : public Error {
  public:
-  using std::runtime_error::runtime_error;
+  using Error::Error;
 };
 
 // One step of a coding path: a key of an object or an index into a list.
@@ -41,7 +48,7 @@ using CodingPath = std::vector<CodingPathElement>;
 std::string renderCodingPath(const CodingPath& path);
 
 // Failure of the Typed face's decoding. `codingPath()` leads from the reply's root to the failing value.
-class DecodingError : public std::runtime_error {
+class DecodingError : public Error {
  public:
   enum class Kind { keyNotFound, valueNotFound, typeMismatch, dataCorrupted };
 
@@ -63,7 +70,7 @@ std::string_view kindName(DecodingError::Kind kind) noexcept;
 
 // Failure of the Typed face's encoding (for example a non-finite double) or of turning a
 // Dictionary-face record parameter into JSON text.
-class EncodingError : public std::runtime_error {
+class EncodingError : public Error {
  public:
   EncodingError(CodingPath path, std::string debugDescription);
 
