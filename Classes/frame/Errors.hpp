@@ -1,7 +1,9 @@
 // Error types raised by both faces of the library.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -47,16 +49,37 @@ using CodingPath = std::vector<CodingPathElement>;
 // Renders a coding path as "config.legal_config.privacy_policy_version" or "faqs[2].title".
 std::string renderCodingPath(const CodingPath& path);
 
-// Failure of the Typed face's decoding. `codingPath()` leads from the reply's root to the failing value.
+// A place in a reply's text: `offset` counts bytes from 0; `line` and `column` count from 1, lines end
+// at '\n' and columns count bytes (not characters).
+struct SourceLocation {
+  std::size_t offset = 0;
+  std::size_t line = 1;
+  std::size_t column = 1;
+
+  // The location of byte `offset` of `text` (an offset at the end names the place just past the last byte).
+  static SourceLocation of(std::string_view text, std::size_t offset) noexcept;
+  friend bool operator==(const SourceLocation&, const SourceLocation&) = default;
+};
+
+// "line 3, column 14 (byte 52)"
+std::string renderSourceLocation(const SourceLocation& location);
+
+// Failure of decoding a reply, in either face. `codingPath()` leads from the reply's root to the failing
+// value. A reply that is not JSON at all (dataCorrupted from qb::parseJson, and so from both faces) also
+// carries `location()`, the first byte that makes the text invalid, and the description names it
+// ("... at line 1, column 12 (byte 11)."). Every other error has no location.
 class DecodingError : public Error {
  public:
   enum class Kind { keyNotFound, valueNotFound, typeMismatch, dataCorrupted };
 
-  DecodingError(Kind kind, CodingPath path, std::string debugDescription);
+  // The description is taken as it is: when there is a location, it should name it already.
+  DecodingError(Kind kind, CodingPath path, std::string debugDescription,
+                std::optional<SourceLocation> location = std::nullopt);
 
   Kind kind() const noexcept { return kind_; }
   const CodingPath& codingPath() const noexcept { return path_; }
   const std::string& debugDescription() const noexcept { return description_; }
+  const std::optional<SourceLocation>& location() const noexcept { return location_; }
   // Returns a copy with `element` put in front of the path: used while the error travels up.
   DecodingError prefixed(CodingPathElement element) const;
 
@@ -64,6 +87,7 @@ class DecodingError : public Error {
   Kind kind_;
   CodingPath path_;
   std::string description_;
+  std::optional<SourceLocation> location_;
 };
 
 std::string_view kindName(DecodingError::Kind kind) noexcept;
