@@ -31,10 +31,16 @@ class HttpError : public HostError {
   HttpError(long status, std::string body);
   long status() const noexcept { return status_; }
   const std::string& body() const noexcept { return body_; }
+  // The service's explanation, when the body is a JSON object with these members as strings:
+  // {"error": "wrong_password", "message": "the password does not match"}. Otherwise std::nullopt.
+  const std::optional<std::string>& error() const noexcept { return error_; }
+  const std::optional<std::string>& message() const noexcept { return message_; }
 
  private:
   long status_;
   std::string body_;
+  std::optional<std::string> error_;
+  std::optional<std::string> message_;
 };
 // No answer: connection refused or dropped, time-out, name resolution. Raised by transports.
 class TransportError : public HostError {
