@@ -40,44 +40,56 @@ qb::cli::Arguments parseArguments(const std::vector<std::string>& pairs) {
   return args;
 }
 
+// The exit code and the line printed for a failure of the library, the host or the in-process mock.
+std::pair<Exit, std::string> describeFailure(const qb::Error& error) {
+  if (const auto* e = dynamic_cast<const qb::ParameterCheckFailException*>(&error)) {
+    return {kCheck, "parameter check failed: " + e->reason()};
+  }
+  if (dynamic_cast<const qb::DecodingError*>(&error)) {
+    return {kCheck, std::string("the reply could not be decoded: ") + error.what()};
+  }
+  if (dynamic_cast<const qb::EncodingError*>(&error)) {
+    return {kCheck, std::string("the request could not be encoded: ") + error.what()};
+  }
+  if (dynamic_cast<const qb::JsonTypeError*>(&error)) {
+    return {kCheck, std::string("the reply has a value of the wrong kind: ") + error.what()};
+  }
+  if (dynamic_cast<const qb::host::AuthRequiredError*>(&error)) {
+    return {kAuth, std::string(error.what()) + " (pass --token)"};
+  }
+  if (const auto* e = dynamic_cast<const qb::host::HttpError*>(&error)) {
+    // The service's own words when it gave them, the start of the body otherwise.
+    if (!e->message()) return {kHttp, error.what()};
+    std::string line = "HTTP status " + std::to_string(e->status());
+    if (e->error()) line += " (" + *e->error() + ")";
+    return {kHttp, line + ": " + *e->message()};
+  }
+  // Transport failures, refused URLs, and an in-process mock service that could not start: no service
+  // could be reached.
+  return {kTransport, error.what()};
+}
+
 // Runs `body` against the given base URL, or against an in-process mock service when there is none, and
 // maps every failure to its exit code.
 int withClient(const std::string& baseUrl, const std::optional<std::string>& token,
                const std::optional<std::string>& envelope, const std::function<void(qb::host::Client&)>& body) {
   std::optional<qb::mock::Service> mock;
   qb::host::ClientOptions options{.baseUrl = baseUrl, .envelopeKey = envelope};
-  if (baseUrl.empty()) {
-    mock.emplace();
-    mock->start(0);
-    options.baseUrl = mock->baseUrl();
-    options.allowInsecureLoopback = true;
-  }
-  qb::host::Client client(options);
-  if (token) client.setAccessToken(*token);
   try {
+    if (baseUrl.empty()) {
+      mock.emplace();
+      mock->start(0);
+      options.baseUrl = mock->baseUrl();
+      options.allowInsecureLoopback = true;
+    }
+    qb::host::Client client(options);
+    if (token) client.setAccessToken(*token);
     body(client);
     return kOk;
-  } catch (const qb::ParameterCheckFailException& e) {
-    std::cerr << "parameter check failed: " << e.reason() << "\n";
-    return kCheck;
-  } catch (const qb::DecodingError& e) {
-    std::cerr << "the reply could not be decoded: " << e.what() << "\n";
-    return kCheck;
-  } catch (const qb::EncodingError& e) {
-    std::cerr << "the request could not be encoded: " << e.what() << "\n";
-    return kCheck;
-  } catch (const qb::JsonTypeError& e) {
-    std::cerr << "the reply has a value of the wrong kind: " << e.what() << "\n";
-    return kCheck;
-  } catch (const qb::host::AuthRequiredError& e) {
-    std::cerr << e.what() << " (pass --token)\n";
-    return kAuth;
-  } catch (const qb::host::HttpError& e) {
-    std::cerr << e.what() << "\n";
-    return kHttp;
-  } catch (const qb::host::HostError& e) {
-    std::cerr << e.what() << "\n";
-    return kTransport;
+  } catch (const qb::Error& e) {
+    const auto [code, line] = describeFailure(e);
+    std::cerr << line << "\n";
+    return code;
   }
 }
 

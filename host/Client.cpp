@@ -55,7 +55,25 @@ bool retryableStatus(long status) { return status == 429 || status == 502 || sta
 HttpError::HttpError(long status, std::string body)
     : HostError("HTTP status " + std::to_string(status) + ": " + body.substr(0, 512)),
       status_(status),
-      body_(std::move(body)) {}
+      body_(std::move(body)) {
+  // Read once here, so that the accessors are plain. Any body may come back (an HTML error page, a proxy's
+  // text, nothing): a body that is not JSON leaves both unset rather than throwing.
+  JsonValue reply;
+  try {
+    reply = parseJson(body_);
+  } catch (const qb::Error&) {
+    return;
+  }
+  const JsonMap* object = reply.if_object();
+  if (!object) return;
+  auto text = [&](std::string_view key) -> std::optional<std::string> {
+    const JsonValue* value = object->if_contains(key);
+    if (!value || !value->is_string()) return std::nullopt;
+    return std::string(value->get_string());
+  };
+  error_ = text("error");
+  message_ = text("message");
+}
 
 std::string parameterText(const JsonValue& value) {
   return value.is_string() ? std::string(value.get_string()) : toJson(value);

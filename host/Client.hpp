@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
 #include <QBComponentAPI/frame/Protocols.hpp>
 #include <QBComponentAPI/frame/QBMessageBase.hpp>
@@ -17,11 +18,12 @@
 
 namespace qb::host {
 
-// Every failure of the host itself derives from HostError. ParameterCheckFailException, DecodingError,
-// EncodingError and JsonTypeError from the library reach the caller unchanged.
-class HostError : public std::runtime_error {
+// Every failure of the host itself derives from HostError, and so from qb::Error like the library's own
+// errors (ParameterCheckFailException, DecodingError, EncodingError, JsonTypeError), which reach the
+// caller unchanged: one `catch (const qb::Error&)` catches everything a send can throw but std::bad_alloc.
+class HostError : public qb::Error {
  public:
-  using std::runtime_error::runtime_error;
+  using qb::Error::Error;
 };
 // The service answered with a status other than 2xx.
 class HttpError : public HostError {
@@ -29,10 +31,16 @@ class HttpError : public HostError {
   HttpError(long status, std::string body);
   long status() const noexcept { return status_; }
   const std::string& body() const noexcept { return body_; }
+  // The service's explanation, when the body is a JSON object with these members as strings:
+  // {"error": "wrong_password", "message": "the password does not match"}. Otherwise std::nullopt.
+  const std::optional<std::string>& error() const noexcept { return error_; }
+  const std::optional<std::string>& message() const noexcept { return message_; }
 
  private:
   long status_;
   std::string body_;
+  std::optional<std::string> error_;
+  std::optional<std::string> message_;
 };
 // No answer: connection refused or dropped, time-out, name resolution. Raised by transports.
 class TransportError : public HostError {

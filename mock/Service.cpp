@@ -13,6 +13,8 @@
 #include <stdexcept>
 #include <thread>
 
+#include <QBComponentAPI/frame/Errors.hpp>
+
 namespace qb::mock {
 namespace {
 
@@ -447,7 +449,8 @@ Service::~Service() { stop(); }
 int Service::start(int port) {
   State& s = *state_;
   s.port = port == 0 ? s.server.bind_to_any_port("127.0.0.1") : (s.server.bind_to_port("127.0.0.1", port) ? port : -1);
-  if (s.port <= 0) throw std::runtime_error("qbapi-mock could not bind 127.0.0.1:" + std::to_string(port));
+  // A qb::Error, so that the qbapi tool, which starts the service in-process, reports it with the rest.
+  if (s.port <= 0) throw qb::Error("qbapi-mock could not bind 127.0.0.1:" + std::to_string(port));
   s.thread = std::thread([&s] { s.server.listen_after_bind(); });
   for (int i = 0; i < 5000 && !s.server.is_running(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(1));
   return s.port;

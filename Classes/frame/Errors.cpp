@@ -24,6 +24,24 @@ std::string renderCodingPath(const CodingPath& path) {
   return out;
 }
 
+SourceLocation SourceLocation::of(std::string_view text, std::size_t offset) noexcept {
+  if (offset > text.size()) offset = text.size();
+  const std::string_view before = text.substr(0, offset);
+  SourceLocation location{.offset = offset};
+  std::size_t lineStart = 0;
+  for (std::size_t i = before.find('\n'); i != std::string_view::npos; i = before.find('\n', i + 1)) {
+    ++location.line;
+    lineStart = i + 1;
+  }
+  location.column = offset - lineStart + 1;
+  return location;
+}
+
+std::string renderSourceLocation(const SourceLocation& location) {
+  return "line " + std::to_string(location.line) + ", column " + std::to_string(location.column) + " (byte " +
+         std::to_string(location.offset) + ")";
+}
+
 std::string_view kindName(DecodingError::Kind kind) noexcept {
   switch (kind) {
     case DecodingError::Kind::keyNotFound: return "keyNotFound";
@@ -53,18 +71,20 @@ std::string renderError(std::string_view kind, const CodingPath& path, const std
 }
 }  // namespace
 
-DecodingError::DecodingError(Kind kind, CodingPath path, std::string debugDescription)
-    : std::runtime_error(renderError(kindName(kind), path, debugDescription)),
+DecodingError::DecodingError(Kind kind, CodingPath path, std::string debugDescription,
+                             std::optional<SourceLocation> location)
+    : Error(renderError(kindName(kind), path, debugDescription)),
       kind_(kind),
       path_(std::move(path)),
-      description_(std::move(debugDescription)) {}
+      description_(std::move(debugDescription)),
+      location_(location) {}
 
 DecodingError DecodingError::prefixed(CodingPathElement element) const {
-  return DecodingError(kind_, withFront(std::move(element), path_), description_);
+  return DecodingError(kind_, withFront(std::move(element), path_), description_, location_);
 }
 
 EncodingError::EncodingError(CodingPath path, std::string debugDescription)
-    : std::runtime_error(renderError("invalidValue", path, debugDescription)),
+    : Error(renderError("invalidValue", path, debugDescription)),
       path_(std::move(path)),
       description_(std::move(debugDescription)) {}
 

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/detail/JsonFault.hpp>
 
 namespace qb {
 namespace {
@@ -28,6 +29,17 @@ DecodingError parseFailure(simdjson::error_code error) {
     default:
       return corrupted(std::string("The given data was not valid JSON: ") + simdjson::error_message(error));
   }
+}
+
+// The error for `bytes`, which the parser refused with `error`. Only now is the text read again, to find
+// where it goes wrong; when that reading finds nothing to blame, the parser's own reason is given alone.
+DecodingError refused(std::string_view bytes, simdjson::error_code error) {
+  const auto fault = detail::findJsonFault(bytes);
+  if (!fault) return parseFailure(error);
+  const SourceLocation location = SourceLocation::of(bytes, fault->offset);
+  return DecodingError(DecodingError::Kind::dataCorrupted, {},
+                       detail::describeJsonFault(*fault, bytes) + " at " + renderSourceLocation(location) + ".",
+                       location);
 }
 
 // Builds the value of `element` in `slot`, a null value that already has the reply's storage: every
@@ -237,7 +249,7 @@ JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
   thread_local std::string buffer;
   detail::copyPadded(buffer, bytes);
   simdjson::dom::element root;
-  if (auto error = parser.parse(buffer.data(), bytes.size(), false).get(root)) throw parseFailure(error);
+  if (auto error = parser.parse(buffer.data(), bytes.size(), false).get(root)) throw refused(bytes, error);
   JsonValue value(std::move(storage));
   convertInto(root, value);
   return value;

@@ -25,7 +25,8 @@ inline constexpr std::size_t kMaxJsonDepth = 256;
 // Parses reply bytes into a JsonValue. Numbers keep their exact kind and value: integers that fit stay
 // int64 (or uint64 above INT64_MAX), everything else is the correctly rounded double. Duplicate keys: the
 // last one wins. Throws qb::DecodingError (dataCorrupted) for invalid JSON, invalid UTF-8, numbers out
-// of range (1e400, integers past UINT64_MAX) and nesting past kMaxJsonDepth. Allocates from `storage`.
+// of range (1e400, integers past UINT64_MAX) and nesting past kMaxJsonDepth; the error's location() gives
+// the first byte at fault. Allocates from `storage`.
 JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage = {});
 
 // As parseJson, for replies that must be a JSON object; anything else is a DecodingError (typeMismatch).

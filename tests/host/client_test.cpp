@@ -222,5 +222,98 @@ TEST(HostClient, SendsWhatTheFacesDescribe) {
   }
 }
 
+TEST(HostClient, EveryFailureOfASendIsCaughtAsQbError) {
+  auto transport = std::make_shared<host::MockTransport>();
+  EXPECT_CALL(*transport, send(testing::_))
+      .WillOnce(testing::Return(host::HttpResponse{401, R"({"error": "invalid_token", "message": "bad token"})"}))
+      .WillOnce(testing::Throw(host::TransportError("connection refused")))
+      .WillOnce(testing::Return(host::HttpResponse{200, R"({"faqs": [})"}));
+  Client client({.baseUrl = "https://api.example.com/", .maxRetries = 0}, transport);
+  const auto faqs = UserGetFaqRequest{.languageCode = LanguageCode::en, .deviceType = DeviceType::ios};
+  struct Case {
+    const char* name;
+    std::function<void()> send;
+    std::function<void(const Error&)> check;
+  } cases[] = {
+      {"AuthRequiredError", [&] { client.send(UserGetUserRequest{}); },
+       [](const Error& e) { EXPECT_NE(dynamic_cast<const host::AuthRequiredError*>(&e), nullptr); }},
+      {"InsecureUrlError", [&] { Client({.baseUrl = "http://example.com/"}, transport).send(faqs); },
+       [](const Error& e) { EXPECT_NE(dynamic_cast<const host::InsecureUrlError*>(&e), nullptr); }},
+      {"HttpError",
+       [&] {
+         client.setAccessToken("t");
+         client.send(UserGetUserRequest{});
+       },
+       [](const Error& e) {
+         const auto* http = dynamic_cast<const host::HttpError*>(&e);
+         ASSERT_NE(http, nullptr);
+         EXPECT_EQ(http->status(), 401);
+         EXPECT_EQ(http->error(), "invalid_token");
+         EXPECT_EQ(http->message(), "bad token");
+       }},
+      {"ParameterCheckFailException", [&] { client.send(*QBUserGetConfigMessage::initWithData(0, std::nullopt)); },
+       [](const Error& e) { EXPECT_NE(dynamic_cast<const ParameterCheckFailException*>(&e), nullptr); }},
+      {"TransportError", [&] { client.send(faqs); },
+       [](const Error& e) {
+         EXPECT_NE(dynamic_cast<const host::TransportError*>(&e), nullptr);
+         EXPECT_STREQ(e.what(), "connection refused");
+       }},
+      {"DecodingError", [&] { client.send(faqs); },
+       [](const Error& e) {
+         const auto* decoding = dynamic_cast<const DecodingError*>(&e);
+         ASSERT_NE(decoding, nullptr);
+         EXPECT_EQ(decoding->location(), (SourceLocation{10, 1, 11}));
+       }},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    try {
+      c.send();
+      ADD_FAILURE() << "sent";
+    } catch (const Error& e) {
+      c.check(e);
+    }
+  }
+}
+
+TEST(HostClient, HttpErrorReadsTheServicesExplanationWhenThereIsOne) {
+  struct Case {
+    std::string body;
+    std::optional<std::string> error, message;
+  } cases[] = {
+      {R"({"error": "wrong_password", "message": "the password does not match"})", "wrong_password",
+       "the password does not match"},
+      {R"({"status": 401, "message": "caf\u00e9", "error": "x"})", "x", "caf\xc3\xa9"},
+      {R"({"error": "no_account"})", "no_account", std::nullopt},
+      {R"({"error": 404, "message": null})", std::nullopt, std::nullopt},
+      {R"({"error": {"code": "x"}, "message": ["m"]})", std::nullopt, std::nullopt},
+      {R"([{"error": "x", "message": "m"}])", std::nullopt, std::nullopt},
+      {R"({"error": "x", "message": "m"} and more)", std::nullopt, std::nullopt},
+      {"<html><body>502 Bad Gateway</body></html>", std::nullopt, std::nullopt},
+      {"", std::nullopt, std::nullopt},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.body);
+    const host::HttpError e(400, c.body);
+    EXPECT_EQ(e.error(), c.error);
+    EXPECT_EQ(e.message(), c.message);
+    EXPECT_EQ(e.body(), c.body);
+  }
+
+  // And as the mock service explains a refusal.
+  mock::Service service;
+  service.start();
+  Client client(loopback(service.baseUrl()));
+  client.setAccessToken("not-a-token");
+  try {
+    client.send(UserGetUserRequest{});
+    ADD_FAILURE();
+  } catch (const host::HttpError& e) {
+    EXPECT_EQ(e.status(), 401);
+    EXPECT_EQ(e.error(), "invalid_token");
+    EXPECT_EQ(e.message(), "the access token is not valid");
+  }
+}
+
 }  // namespace
 }  // namespace qb
