@@ -12,8 +12,8 @@
 
 namespace qb {
 
-using AllEndpoints = Concat<user::Endpoints>;
-using AllRecords = Concat<user::Records>;
+using AllEndpoints = Concat<user::Endpoints, cms::Endpoints, share::Endpoints>;
+using AllRecords = Concat<user::Records, cms::Records, share::Records>;
 
 // The name of every class of every catalogue, domain by domain.
 inline constexpr std::span<const std::string_view> kCatalogueClassNames[] = {user::kClassNames, cms::kClassNames,

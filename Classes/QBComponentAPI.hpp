@@ -17,6 +17,11 @@
 #include <QBComponentAPI/frame/Protocols.hpp>
 #include <QBComponentAPI/frame/QBMessageBase.hpp>
 
+#include <QBComponentAPI/cms/CmsTagValues.hpp>
+#include <QBComponentAPI/cms/dict/CmsDict.hpp>
+#include <QBComponentAPI/cms/enums/CmsEnums.hpp>
+#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
+#include <QBComponentAPI/share/typed/ShareTyped.hpp>
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/enums/UserEnums.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>

@@ -15,15 +15,10 @@
 
 #include <QBComponentAPI/frame/Errors.hpp>
 
+#include "mock/Handlers.hpp"
+
 namespace qb::mock {
 namespace {
-
-// A failure answered as {"error": code, "message": text} with an HTTP status.
-struct Failure {
-  int status;
-  std::string code;
-  std::string message;
-};
 
 int hexDigit(char c) {
   if (c >= '0' && c <= '9') return c - '0';
@@ -57,25 +52,6 @@ JsonValue parameterValue(const std::string& text) {
     }
   }
   return JsonValue(text);
-}
-
-struct Upload {
-  std::string contentType;
-  std::string data;
-};
-
-// One request's parameters, whatever the encoding, plus its caller.
-struct Call {
-  JsonMap params;
-  std::map<std::string, Upload> files;
-  std::optional<std::int64_t> userId;  // from a valid bearer token
-  std::string token;
-};
-
-std::string text(const JsonMap& params, std::string_view key) {
-  const JsonValue* v = params.if_contains(key);
-  if (!v || v->is_null()) return {};
-  return v->is_string() ? std::string(v->get_string()) : toJson(*v);
 }
 
 // The parameters a request must carry: those that every face of the endpoint always sends (a
@@ -148,8 +124,6 @@ struct Service::State {
   std::int64_t nextUserId = 9007199254740993;      // above 2^53, as real ids may be
   std::mt19937_64 random{20261122};
 
-  using Handler = std::function<JsonMap(Call&)>;
-
   std::string newToken() { return "tok-" + std::to_string(random()); }
 
   std::int64_t createUser(bool guest, const std::string& email) {
@@ -218,7 +192,7 @@ struct Service::State {
 
   // The hand-written part of the service: what each endpoint does, by path. Which endpoints exist, their
   // verbs, whether they need a session and which parameters they insist on come from the catalogues.
-  std::map<std::string_view, Handler> handlers() {
+  HandlerTable accountHandlers() {
     auto login = [this](Call& call) {
       const JsonValue& info = call.params.at("login_info");
       if (!info.is_object()) throw Failure{400, "invalid_parameter", "login_info must be an object"};
@@ -376,13 +350,13 @@ struct Service::State {
 
   // One endpoint of a catalogue: the route, with its hand-written handler.
   template <class A>
-  void installRoute(std::map<std::string_view, Handler>& all) {
+  void installRoute(HandlerTable& all) {
     const Endpoint& endpoint = A::endpoint;
     const auto found = all.find(endpoint.path);
     if (found == all.end()) throw std::logic_error("qbapi-mock has no handler for " + std::string(endpoint.path));
     Handler handler = std::move(found->second);
     all.erase(found);
-    auto handle = [this, &endpoint, handler = std::move(handler), required = requiredParameters<A>()](
+    auto handle = [this, handler = std::move(handler), required = requiredParameters<A>()](
                       const httplib::Request& req, httplib::Response& res) {
       ++requests;
       try {
@@ -393,7 +367,7 @@ struct Service::State {
           if (token == tokens.end()) throw Failure{401, "invalid_token", "the access token is not valid"};
           call.userId = token->second;
         }
-        if (endpoint.mustAuth() && !call.userId) {
+        if (A::endpoint.mustAuth() && !call.userId) {
           throw Failure{401, "auth_required", "this endpoint needs an access token"};
         }
         for (const auto& key : required) {
@@ -416,7 +390,8 @@ struct Service::State {
   }
 
   void install() {
-    auto all = handlers();
+    HandlerTable all = accountHandlers();
+    all.merge(contentHandlers());
     forEachType(AllEndpoints{}, [&]<class A>() { installRoute<A>(all); });
     if (!all.empty())
       throw std::logic_error("qbapi-mock has a handler for " + std::string(all.begin()->first) +

@@ -100,6 +100,9 @@ const std::vector<AllowedDifference>& allowedDifferences() {
   static const std::vector<AllowedDifference> table{
       // The subscription summary's refund flag is read by the Dictionary face only.
       {"VipInfo", {"is_refund_in_history"}, {}},
+      // An image's illustration is the Dictionary face's alone; a simple name's tags the Typed face's.
+      {"CmsImage", {"illustration"}, {}},
+      {"SimpleCmsName", {}, {"cms_tags"}},
   };
   return table;
 }
