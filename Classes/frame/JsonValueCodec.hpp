@@ -146,7 +146,7 @@ class JsonValueDecoder {
 };
 
 // Encodes a record into a JsonValue (a JsonMap for records). Throws EncodingError for a non-finite
-// double or invalid UTF-8 in a text.
+// double, invalid UTF-8 in a text or an enumeration value that is none of its cases.
 class JsonValueEncoder {
  public:
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;

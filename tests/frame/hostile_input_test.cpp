@@ -137,5 +137,44 @@ TEST(HostileInput, UnwritableValuesSetByTheHostAreRefused) {
   EXPECT_THROW(JSONEncoder().encode(FaqModel{.title = "\xc0\xaf", .content = "", .faqType = 0}), EncodingError);
 }
 
+// The coding path of the EncodingError both Typed-face encoders throw for `record`, which must agree.
+template <class T>
+std::string encodingFailurePath(const T& record) {
+  std::optional<std::string> text, value;
+  try {
+    JSONEncoder().encode(record);
+  } catch (const EncodingError& e) {
+    text = renderCodingPath(e.codingPath());
+  }
+  try {
+    JsonValueEncoder().encode(record);
+  } catch (const EncodingError& e) {
+    value = renderCodingPath(e.codingPath());
+  }
+  EXPECT_EQ(text, value);
+  return text.value_or("<encoded>");
+}
+
+TEST(HostileInput, EnumerationValuesThatAreNoCaseAreRefusedByTheTypedEncoders) {
+  UserGetFaqRequest faq{};  // as a designated initializer that leaves out the device type: 0, no DeviceType
+  faq.languageCode = LanguageCode::en;
+  EXPECT_EQ(encodingFailurePath(faq), "device_type");
+  faq.deviceType = DeviceType::web;
+  EXPECT_EQ(encodingFailurePath(faq), "<encoded>");
+  faq.languageCode = static_cast<LanguageCode>(16);
+  EXPECT_EQ(encodingFailurePath(faq), "language_code");
+  EXPECT_EQ(encodingFailurePath(UserUpdateRequest{.gender = static_cast<Gender>(7)}), "gender");
+  UserUpdateDeviceInfoRequest device{};
+  device.deviceInfo.deviceToken = "t";
+  EXPECT_EQ(encodingFailurePath(device), "device_info.device_type");
+  // Decoding fallbacks apply to replies only: an unknown VipLevel reads as gold but is not written.
+  VipInfoModel vip{};
+  vip.vipLevel = static_cast<VipLevel>(99);
+  EXPECT_EQ(encodingFailurePath(vip), "vip_level");
+
+  // The Dictionary face carries enumerations as plain integers and sends them as they are.
+  EXPECT_EQ(toJson(QBUserGetFaqMessage::initWithData(16, 0)->getParams()), R"({"language_code":16,"device_type":0})");
+}
+
 }  // namespace
 }  // namespace qb
