@@ -51,6 +51,7 @@ struct DictKind<std::optional<std::vector<std::byte>>> : DictKind<void> {
 };
 
 [[noreturn]] void throwNotA(std::string_view expected, std::string_view key, const JsonValue& value);
+[[noreturn]] void throwUnwritableParameter(std::string_view key);
 
 // The engine reads from a reply it borrows (`const JsonMap`), copying values out, or from one it was
 // handed (`JsonMap`, from an rvalue), moving them out. V is JsonValue or const JsonValue accordingly.
@@ -191,15 +192,26 @@ std::optional<JsonValue> dictionaryValue(const T& value) {
   }
 }
 
-// The parameter-map form of a present parameter: records and lists as JSON text, maps as compact text.
+// The parameter-map form of a present parameter: records and lists as JSON text, maps as compact text,
+// everything else as it is. Throws EncodingError naming the parameter when it cannot be written as JSON,
+// whatever its kind: a map of parameters is always one that JSON text can hold.
 template <class T>
 std::optional<JsonValue> parameterValue(const T& value, std::string_view key) {
   using Kind = DictKind<T>;
-  if constexpr (Kind::integer || Kind::plain) {
-    return dictionaryValue(value);
+  if constexpr (Kind::integer) {
+    return JsonValue(value);
+  } else if constexpr (Kind::plain) {
+    if (!value) return std::nullopt;
+    // Checked as it will be written: one level down, inside the map of parameters.
+    if (!isWritableJson(*value, 1)) throwUnwritableParameter(key);
+    return *value;
   } else if constexpr (Kind::map) {
     if (!value) return std::nullopt;
-    return JsonValue(toJson(*value));
+    try {
+      return JsonValue(toJson(*value));
+    } catch (const EncodingError&) {
+      throwUnwritableParameter(key);
+    }
   } else {
     static_assert(!Kind::data, "file data travels as a multipart body, never as a parameter");
     std::optional<std::string> text;
@@ -210,7 +222,7 @@ std::optional<JsonValue> parameterValue(const T& value, std::string_view key) {
       if (!value) return std::nullopt;
       text = toJsonString(*value);
     }
-    if (!text) throw EncodingError({std::string(key)}, "The parameter cannot be written as JSON text.");
+    if (!text) throwUnwritableParameter(key);
     return JsonValue(std::move(*text));
   }
 }
