@@ -66,5 +66,9 @@ void throwNotA(std::string_view expected, std::string_view key, const JsonValue&
   throw JsonTypeError(text);
 }
 
+void throwUnwritableParameter(std::string_view key) {
+  throw EncodingError({std::string(key)}, "The parameter cannot be written as JSON text.");
+}
+
 }  // namespace detail
 }  // namespace qb

@@ -88,7 +88,8 @@ class JSONEncoder {
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;
 
   // Compact JSON text of `value` (a record, list or map); absent optional members leave no key.
-  // Throws EncodingError for a non-finite double or invalid UTF-8 in a text. Allocates the result.
+  // Throws EncodingError for a non-finite double, invalid UTF-8 in a text or an enumeration value that is
+  // none of its cases. Allocates the result.
   template <class T>
   std::string encode(const T& value) const {
     std::string out;

@@ -235,6 +235,32 @@ bool appendQuotedJson(std::string& out, std::string_view s) {
   return true;
 }
 
+bool isWritableJson(const JsonValue& value, std::size_t depth) {
+  switch (value.kind()) {
+    case boost::json::kind::double_: return std::isfinite(value.get_double());
+    case boost::json::kind::string: {
+      const auto& text = value.get_string();
+      return simdjson::validate_utf8(text.data(), text.size());
+    }
+    case boost::json::kind::array:
+      if (++depth > kMaxJsonDepth) return false;
+      for (const auto& item : value.get_array()) {
+        if (!isWritableJson(item, depth)) return false;
+      }
+      return true;
+    case boost::json::kind::object:
+      if (++depth > kMaxJsonDepth) return false;
+      for (const auto& member : value.get_object()) {
+        if (!simdjson::validate_utf8(member.key().data(), member.key().size()) ||
+            !isWritableJson(member.value(), depth)) {
+          return false;
+        }
+      }
+      return true;
+    default: return true;
+  }
+}
+
 }  // namespace detail
 
 JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {

@@ -49,6 +49,9 @@ namespace detail {
 bool appendQuotedJson(std::string& out, std::string_view text);
 // Appends the shortest exact text of `d` (with ".0" for whole numbers); false for a non-finite value.
 bool appendJsonDouble(std::string& out, double d);
+// Whether `value` can be written as JSON when it sits inside `depth` objects or arrays: every number
+// finite, every text and key valid UTF-8, no nesting past kMaxJsonDepth. Writes and allocates nothing.
+bool isWritableJson(const JsonValue& value, std::size_t depth = 0);
 }  // namespace detail
 
 }  // namespace qb

@@ -83,7 +83,10 @@ class JsonValueSink {
   void beginArray() { open(JsonValue(JsonList())); }
   void endObject() { close(); }
   void endArray() { close(); }
-  void key(std::string_view name) { key_ = name; }
+  void key(std::string_view name) {
+    checkWritable(name);  // the keys of a map are the app's text
+    key_ = name;
+  }
   void writeNull() { put(JsonValue(nullptr)); }
   void writeBool(bool b) { put(JsonValue(b)); }
   void writeInt64(std::int64_t i) { put(JsonValue(i)); }
@@ -93,7 +96,10 @@ class JsonValueSink {
     put(JsonValue(s));
   }
   void writeAny(const JsonValue& v) {
-    (void)toJson(v);  // throws EncodingError for what JSON text cannot hold
+    if (!isWritableJson(v)) {
+      throw EncodingError({}, "The value cannot be written as JSON (a non-finite number, invalid UTF-8 or nesting too "
+                              "deep).");
+    }
     put(v);
   }
 
@@ -146,7 +152,7 @@ class JsonValueDecoder {
 };
 
 // Encodes a record into a JsonValue (a JsonMap for records). Throws EncodingError for a non-finite
-// double or invalid UTF-8 in a text.
+// double, invalid UTF-8 in a text or an enumeration value that is none of its cases.
 class JsonValueEncoder {
  public:
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;

@@ -2,13 +2,19 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <functional>
+#include <string>
 #include <thread>
+#include <tuple>
 
 #include <QBComponentAPI/frame/DictModel.hpp>
 #include <QBComponentAPI/user/dict/QBAPIAutoUpdate.hpp>
 #include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
+#include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
 #include <QBComponentAPI/user/dict/QBAPILegalConfig.hpp>
 #include <QBComponentAPI/user/dict/QBUserGetConfigMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserInitialiseMessage.hpp>
 
 namespace qb {
 namespace {
@@ -172,6 +178,75 @@ TEST(DictEngine, ParseResponseFillsKeepsAndClearsResults) {
   auto fresh = QBUserGetConfigMessage::initWithData(1, JsonValue("DE"));
   fresh->parseResponse(JsonMap{});
   EXPECT_FALSE(fresh->config());
+}
+
+// The reason of a ParameterCheckFailException, "JsonTypeError", or "<no exception>".
+std::string failureOf(const std::function<void()>& f) {
+  try {
+    f();
+  } catch (const ParameterCheckFailException& e) {
+    return e.reason();
+  } catch (const JsonTypeError&) {
+    return "JsonTypeError";
+  }
+  return "<no exception>";
+}
+
+TEST(DictEngine, AReplyThatFailsPartWayLeavesEveryResultAsItWas) {
+  const std::string user = R"({"user_id": 1, "uuid": "u", "created_at": 1, "guest_user": true, "vip": false,
+                                "expert_consultation_count": 0})";
+  const std::string first = R"({"user": )" + user + R"(, "access_token": "old", "config": )" + kConfig +
+                            R"(, "other_configs": {"a": 1}, "country": "DE"})";
+  // Each reply has results that read well (declared before the failing one, or after it) next to one that
+  // fails: a message that stored results as it read them would keep a mix of both replies.
+  struct Case {
+    std::string reply;
+    const char* failure;
+  } cases[] = {
+      {R"({"user": )" + user + R"(, "access_token": "new", "other_configs": null, "config": {"auto_update": null}})",
+       "autoUpdate is missing in model ClientConfig"},
+      {R"({"access_token": "new", "config": {"auto_update": {}}, "country": "FR"})",
+       "hasUpdate is missing in model AutoUpdate"},
+      {R"({"user": )" + user + R"(, "access_token": "new", "user_additional_data": [1]})", "JsonTypeError"},
+      {R"({"access_token": "new", "app_server_time": 5, "config": "text"})", "JsonTypeError"},
+  };
+  const auto results = [](const QBUserInitialiseMessage& m) {
+    return std::tuple(m.user().get(), m.userAdditionalData().get(), m.accessToken(), m.config().get(),
+                      m.otherConfigs(), m.appServerTime(), m.country());
+  };
+  for (const auto& c : cases) {
+    for (const bool given : {false, true}) {
+      SCOPED_TRACE(c.reply + (given ? " (given up)" : " (borrowed)"));
+      auto message = QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, JsonValue("US"));
+      message->parseResponse(parseJsonMap(first));
+      ASSERT_TRUE(message->user() && message->config() && message->otherConfigs() && message->accessToken());
+      const auto before = results(*message);
+      EXPECT_EQ(failureOf([&] {
+                  if (given) {
+                    message->parseResponse(parseJsonMap(c.reply));
+                  } else {
+                    const JsonMap reply = parseJsonMap(c.reply);
+                    message->parseResponse(reply);
+                  }
+                }),
+                c.failure);
+      EXPECT_EQ(results(*message), before);
+    }
+  }
+
+  // A list of records fails as a whole too.
+  const char* const faq = R"({"title": "t", "content": "c", "faq_type": 1})";
+  auto faqs = QBUserGetFaqMessage::initWithData(0, 1);
+  faqs->parseResponse(parseJsonMap(std::string(R"({"faqs": [)") + faq + "]}"));
+  const auto list = faqs->faqs();
+  ASSERT_TRUE(list && list->size() == 1);
+  const auto withFaqs = [&](const char* more) {
+    return parseJsonMap(std::string(R"({"faqs": [)") + faq + more + "]}");
+  };
+  EXPECT_EQ(failureOf([&] { faqs->parseResponse(withFaqs(R"(, {"title": "t"})")); }),
+            "content is missing in model Faq");
+  EXPECT_EQ(failureOf([&] { faqs->parseResponse(withFaqs(", null")); }), "JsonTypeError");
+  EXPECT_EQ(faqs->faqs(), list);
 }
 
 TEST(DictEngine, AReplyGivenUpIsReadLikeABorrowedOne) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
@@ -126,15 +127,105 @@ TEST(HostileInput, WrongShapesAreTypedErrors) {
   }
 }
 
-TEST(HostileInput, UnwritableValuesSetByTheHostAreRefused) {
-  auto device = QBAPIDeviceInfo::initWithJsonObject(parseJsonMap(R"({"device_token": "t"})"));
-  device->setDeviceToken(JsonValue(std::nan("")));
-  EXPECT_FALSE(device->toJsonString());
-  auto message = QBUserUpdateDeviceInfoMessage::initWithData(device);
-  EXPECT_THROW(message->getParams(), EncodingError) << "never a parameter map missing the record";
-  device->setDeviceToken(JsonValue("\xc0\xaf"));  // an overlong encoding is not UTF-8
-  EXPECT_THROW(message->getParams(), EncodingError);
-  EXPECT_THROW(JSONEncoder().encode(FaqModel{.title = "\xc0\xaf", .content = "", .faqType = 0}), EncodingError);
+// The coding path of the EncodingError both Typed-face encoders throw for `record`, which must agree.
+template <class T>
+std::string encodingFailurePath(const T& record) {
+  std::optional<std::string> text, value;
+  try {
+    JSONEncoder().encode(record);
+  } catch (const EncodingError& e) {
+    text = renderCodingPath(e.codingPath());
+  }
+  try {
+    JsonValueEncoder().encode(record);
+  } catch (const EncodingError& e) {
+    value = renderCodingPath(e.codingPath());
+  }
+  EXPECT_EQ(text, value);
+  return text.value_or("<encoded>");
+}
+
+// The coding path of the EncodingError getParams throws, or "<built>".
+std::string paramsFailurePath(const QBMessageBase& message) {
+  try {
+    message.getParams();
+  } catch (const EncodingError& e) {
+    return renderCodingPath(e.codingPath());
+  }
+  return "<built>";
+}
+
+TEST(HostileInput, UnwritableValuesSetByTheAppAreRefusedInBothFaces) {
+  // NaN, infinity and text that is not UTF-8 (an overlong encoding, an encoded lone surrogate), alone or
+  // inside a list or a map, as a value or as a key.
+  const JsonValue cases[] = {
+      JsonValue(std::nan("")),
+      JsonValue(INFINITY),
+      JsonValue(-INFINITY),
+      JsonValue("\xc0\xaf"),
+      JsonValue("\xed\xa0\x80"),
+      JsonValue(JsonList{1, std::nan("")}),
+      JsonValue(JsonMap{{"k", JsonList{"\xff"}}}),
+      JsonValue(JsonMap{{"\xff", 1}}),
+  };
+  for (const JsonValue& value : cases) {
+    SCOPED_TRACE(describeKind(value));
+    // Dictionary face: no text for the record or the list holding it, and getParams refuses the parameter
+    // whatever its kind.
+    auto device = QBAPIDeviceInfo::initWithJsonObject(parseJsonMap(R"({"device_token": "t"})"));
+    device->setDeviceToken(value);
+    EXPECT_FALSE(device->toJsonString());
+    EXPECT_FALSE(toJsonString(JsonList{value}));
+    EXPECT_EQ(paramsFailurePath(*QBUserUpdateDeviceInfoMessage::initWithData(device)), "device_info");
+    EXPECT_EQ(paramsFailurePath(*QBUserUpdateUserPropertiesMessage::initWithData(JsonValue("k"), value)), "value");
+    // List and map parameters, which no message of the user API has yet.
+    EXPECT_THROW(detail::parameterValue(std::optional<JsonList>(JsonList{value}), "l"), EncodingError);
+    try {
+      detail::parameterValue(std::optional<JsonMap>(JsonMap{{"k", value}}), "m");
+      ADD_FAILURE() << "written";
+    } catch (const EncodingError& e) {
+      EXPECT_EQ(renderCodingPath(e.codingPath()), "m");
+    }
+    // Typed face: any value carried unread.
+    UserGetConfigResponse reply{};
+    reply.otherConfigs["x"] = AnyCodable{value};
+    EXPECT_EQ(encodingFailurePath(reply), "other_configs.x");
+  }
+  // Typed face: text members and the keys of maps.
+  EXPECT_EQ(encodingFailurePath(FaqModel{.title = "\xc0\xaf", .content = "", .faqType = 0}), "title");
+  UserGetConfigResponse reply{};
+  reply.otherConfigs["\xff"] = AnyCodable{JsonValue(1)};
+  EXPECT_EQ(encodingFailurePath(reply), "other_configs");
+
+  // A parameter is checked where it will be written, one level down in the map of parameters: nested as
+  // deep as JSON text allows there, it is sent.
+  JsonValue deep = 1;
+  for (std::size_t depth = 1; depth < kMaxJsonDepth; ++depth) deep = JsonValue(JsonList{std::move(deep)});
+  auto message = QBUserUpdateUserPropertiesMessage::initWithData(JsonValue("k"), deep);
+  EXPECT_NO_THROW((void)toJson(message->getParams()));
+  message->setValue(JsonValue(JsonList{std::move(deep)}));
+  EXPECT_EQ(paramsFailurePath(*message), "value");
+}
+
+TEST(HostileInput, EnumerationValuesThatAreNoCaseAreRefusedByTheTypedEncoders) {
+  UserGetFaqRequest faq{};  // as a designated initializer that leaves out the device type: 0, no DeviceType
+  faq.languageCode = LanguageCode::en;
+  EXPECT_EQ(encodingFailurePath(faq), "device_type");
+  faq.deviceType = DeviceType::web;
+  EXPECT_EQ(encodingFailurePath(faq), "<encoded>");
+  faq.languageCode = static_cast<LanguageCode>(16);
+  EXPECT_EQ(encodingFailurePath(faq), "language_code");
+  EXPECT_EQ(encodingFailurePath(UserUpdateRequest{.gender = static_cast<Gender>(7)}), "gender");
+  UserUpdateDeviceInfoRequest device{};
+  device.deviceInfo.deviceToken = "t";
+  EXPECT_EQ(encodingFailurePath(device), "device_info.device_type");
+  // Decoding fallbacks apply to replies only: an unknown VipLevel reads as gold but is not written.
+  VipInfoModel vip{};
+  vip.vipLevel = static_cast<VipLevel>(99);
+  EXPECT_EQ(encodingFailurePath(vip), "vip_level");
+
+  // The Dictionary face carries enumerations as plain integers and sends them as they are.
+  EXPECT_EQ(toJson(QBUserGetFaqMessage::initWithData(16, 0)->getParams()), R"({"language_code":16,"device_type":0})");
 }
 
 }  // namespace

@@ -2,6 +2,10 @@
 // declares its field tables with the macros of frame/DictModel.hpp. Included only by .cpp files.
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -47,6 +51,7 @@ struct DictKind<std::optional<std::vector<std::byte>>> : DictKind<void> {
 };
 
 [[noreturn]] void throwNotA(std::string_view expected, std::string_view key, const JsonValue& value);
+[[noreturn]] void throwUnwritableParameter(std::string_view key);
 
 // The engine reads from a reply it borrows (`const JsonMap`), copying values out, or from one it was
 // handed (`JsonMap`, from an rvalue), moving them out. V is JsonValue or const JsonValue accordingly.
@@ -90,39 +95,48 @@ std::vector<std::shared_ptr<M>> readModelList(V& value, std::string_view key) {
   return models;
 }
 
-// Reads one field as initWithJsonObject does and returns whether it is present. `value` is the reply's
-// value under the field's key, nullptr when the key is absent.
-template <class Owner, class T, class V>
-bool readField(Owner& owner, const dict::Field<Owner, T>& field, V* value) {
+// Reads the value of one field as initWithJsonObject does and hands it to put(), by value or as a reference
+// to move or copy from; returns whether there was one. `value` is the reply's value under the field's
+// key, nullptr when the key is absent. An integer always has a value (0 when absent); the others have
+// none when absent or null, and a map field none unless the reply holds a map there. Throws as reading
+// the field throws: nothing is handed to put() then.
+template <class T, class V, class Put>
+bool readValue(std::string_view key, V* value, Put&& put) {
   using Kind = DictKind<T>;
-  Atomic<T>& cell = owner.*field.member;
   if constexpr (Kind::integer) {
     // Never null-checked: a null here is a fault of the reply and toInteger reports it.
-    cell.store(value ? toInteger(*value, field.key) : 0);
+    put(value ? toInteger(*value, key) : std::int64_t{0});
     return true;
   } else {
     if (value && value->is_null()) value = nullptr;
     if constexpr (Kind::map) {
       // The one type check of the face: a map field keeps only a map.
       if (!value || !value->is_object()) return false;
-      cell.store(take(value->get_object()));
+      put(take(value->get_object()));
       return true;
     } else {
       if (!value) return false;
       if constexpr (Kind::plain) {
-        cell.store(take(*value));
+        put(take(*value));
       } else if constexpr (Kind::model) {
-        cell.store(Kind::Model::initWithJsonObject(take(asMap(*value, field.key))));
+        put(Kind::Model::initWithJsonObject(take(asMap(*value, key))));
       } else if constexpr (Kind::modelList) {
-        cell.store(readModelList<typename Kind::Model>(*value, field.key));
+        put(readModelList<typename Kind::Model>(*value, key));
       } else if constexpr (Kind::list) {
-        cell.store(take(asList(*value, field.key)));
+        put(take(asList(*value, key)));
       } else {
         static_assert(!Kind::data, "file data is never read from a map");
       }
       return true;
     }
   }
+}
+
+// Reads one field into its property and returns whether it is present (see readValue).
+template <class Owner, class T, class V>
+bool readField(Owner& owner, const dict::Field<Owner, T>& field, V* value) {
+  Atomic<T>& cell = owner.*field.member;
+  return readValue<T>(field.key, value, [&](auto&& read) { cell.store(std::forward<decltype(read)>(read)); });
 }
 
 // The keys of a field table (TableFn: a class's qbFields, qbParams or qbResults), in declared order.
@@ -133,13 +147,12 @@ struct TableKeys {
       [](const auto&... field) { return std::array<std::string_view, sizeof...(field)>{field.key...}; }, table);
 };
 
-// Calls f(field, value) for each field of the table in declared order, with the reply's value under the
-// field's key or nullptr. The reply is walked once and its keys matched through a hash table, instead of
-// one search of the map per field (a linear scan for small maps).
-template <auto TableFn, class Map, class F>
-void forEachFieldIn(Map& map, F&& f) {
-  using Keys = TableKeys<TableFn>;
-  using Table = NameTable<Keys::names>;
+// The reply's value under each key of the table (TableFn), in declared order, or nullptr where the key
+// is absent. The reply is walked once and its keys matched through a hash table, instead of one search
+// of the map per field (a linear scan for small maps).
+template <auto TableFn, class Map>
+auto fieldValuesIn(Map& map) {
+  using Table = NameTable<TableKeys<TableFn>::names>;
   std::array<Like<Map, JsonValue>*, Table::count> values{};
   if constexpr (Table::count > 0) {
     for (auto& entry : map) {
@@ -147,8 +160,16 @@ void forEachFieldIn(Map& map, F&& f) {
       if (index >= 0) values[static_cast<std::size_t>(index)] = &entry.value();
     }
   }
+  return values;
+}
+
+// Calls f(field, value) for each field of the table in declared order, with the reply's value under the
+// field's key or nullptr.
+template <auto TableFn, class Map, class F>
+void forEachFieldIn(Map& map, F&& f) {
+  const auto values = fieldValuesIn<TableFn>(map);
   std::size_t index = 0;
-  std::apply([&](const auto&... field) { (f(field, values[index++]), ...); }, Keys::table);
+  std::apply([&](const auto&... field) { (f(field, values[index++]), ...); }, TableKeys<TableFn>::table);
 }
 
 // The dictionary form of a present property, or nothing when it is absent.
@@ -171,15 +192,26 @@ std::optional<JsonValue> dictionaryValue(const T& value) {
   }
 }
 
-// The parameter-map form of a present parameter: records and lists as JSON text, maps as compact text.
+// The parameter-map form of a present parameter: records and lists as JSON text, maps as compact text,
+// everything else as it is. Throws EncodingError naming the parameter when it cannot be written as JSON,
+// whatever its kind: a map of parameters is always one that JSON text can hold.
 template <class T>
 std::optional<JsonValue> parameterValue(const T& value, std::string_view key) {
   using Kind = DictKind<T>;
-  if constexpr (Kind::integer || Kind::plain) {
-    return dictionaryValue(value);
+  if constexpr (Kind::integer) {
+    return JsonValue(value);
+  } else if constexpr (Kind::plain) {
+    if (!value) return std::nullopt;
+    // Checked as it will be written: one level down, inside the map of parameters.
+    if (!isWritableJson(*value, 1)) throwUnwritableParameter(key);
+    return *value;
   } else if constexpr (Kind::map) {
     if (!value) return std::nullopt;
-    return JsonValue(toJson(*value));
+    try {
+      return JsonValue(toJson(*value));
+    } catch (const EncodingError&) {
+      throwUnwritableParameter(key);
+    }
   } else {
     static_assert(!Kind::data, "file data travels as a multipart body, never as a parameter");
     std::optional<std::string> text;
@@ -190,7 +222,7 @@ std::optional<JsonValue> parameterValue(const T& value, std::string_view key) {
       if (!value) return std::nullopt;
       text = toJsonString(*value);
     }
-    if (!text) throw EncodingError({std::string(key)}, "The parameter cannot be written as JSON text.");
+    if (!text) throwUnwritableParameter(key);
     return JsonValue(std::move(*text));
   }
 }
@@ -245,19 +277,44 @@ JsonMap messageParams(const Message& message) {
   return map;
 }
 
+// The property type of a field-table entry.
+template <class F>
+struct FieldType;
+template <class Owner, class T>
+struct FieldType<dict::Field<Owner, T>> {
+  using type = T;
+};
+
+// Stores one result read by messageParseResponse: nested results keep their old value when the reply has
+// nothing there; everything else is stored as received, and absent or null clears it.
+template <class Owner, class T>
+void storeResult(Owner& owner, const dict::Field<Owner, T>& field, std::optional<T>& read) {
+  using Kind = DictKind<T>;
+  Atomic<T>& cell = owner.*field.member;
+  if (read) {
+    cell.store(std::move(*read));
+  } else if constexpr (!Kind::model && !Kind::modelList) {
+    cell.store(T{});
+  }
+}
+
+// Every result is read into a temporary first and stored only when all were read, so a reply that fails
+// part-way (a nested record missing a required field, a value of the wrong shape) leaves the message with
+// the results it had. Values moved out of an owned reply are moved once more into the properties, never
+// copied.
 template <class Message, class Map>
 void messageParseResponse(Message& message, Map& reply) {
-  forEachFieldIn<&Message::qbResults>(reply, [&](const auto& field, auto* value) {
-    using T = typename std::remove_reference_t<decltype((message.*field.member))>::value_type_;
-    using Kind = DictKind<T>;
-    if constexpr (Kind::model || Kind::modelList) {
-      // Nested results keep their old value when the reply has nothing there.
-      readField(message, field, value);
-    } else {
-      // Everything else is stored as received; absent or null clears it.
-      if (!readField(message, field, value)) (message.*field.member).store(T{});
-    }
-  });
+  using Keys = TableKeys<&Message::qbResults>;
+  using Table = std::remove_cv_t<decltype(Keys::table)>;
+  [[maybe_unused]] const auto values = fieldValuesIn<&Message::qbResults>(reply);
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    [[maybe_unused]] std::tuple<std::optional<typename FieldType<std::tuple_element_t<I, Table>>::type>...> read;
+    (readValue<typename FieldType<std::tuple_element_t<I, Table>>::type>(
+         std::get<I>(Keys::table).key, values[I],
+         [&](auto&& value) { std::get<I>(read).emplace(std::forward<decltype(value)>(value)); }),
+     ...);
+    (storeResult(message, std::get<I>(Keys::table), std::get<I>(read)), ...);
+  }(std::make_index_sequence<std::tuple_size_v<Table>>{});
 }
 
 }  // namespace qb::detail

@@ -208,6 +208,12 @@ void decodeRecord(N& node, T& out) {
 template <class S, class T>
 void encodeValue(S& sink, const T& value);
 
+template <class E>
+[[noreturn]] void throwNotACase(std::int64_t raw) {
+  throw EncodingError({}, "Unable to encode " + std::string(EnumTraits<E>::name) + " value " + std::to_string(raw) +
+                              ", which is none of its cases.");
+}
+
 template <class S, class T>
 void encodeRecord(S& sink, const T& record) {
   sink.beginObject();
@@ -248,6 +254,9 @@ void encodeValue(S& sink, const T& value) {
   } else if constexpr (std::is_same_v<T, std::string>) {
     sink.writeString(value);
   } else if constexpr (APIEnumrable<T>) {
+    // A value that is none of the cases (a cast integer, a member left out of a designated initializer)
+    // would reach the server as a number it does not know; decoding fallbacks do not apply here.
+    if (!fromRawValue<T>(rawValue(value))) throwNotACase<T>(rawValue(value));
     sink.writeInt64(rawValue(value));
   } else if constexpr (std::is_same_v<T, Date>) {
     const DateStrategy strategy = sink.dateStrategy();
