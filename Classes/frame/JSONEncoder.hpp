@@ -91,12 +91,17 @@ class JSONEncoder {
   // Throws EncodingError for a non-finite double, invalid UTF-8 in a text or an enumeration value that is
   // none of its cases. Allocates the result.
   template <class T>
-  std::string encode(const T& value) const {
-    std::string out;
-    detail::JsonTextSink sink(out, dateStrategy);
-    detail::encodeValue(sink, value);
-    return out;
-  }
+  std::string encode(const T& value) const;
 };
+
+// Defined out of the class, so that it is not inline: a domain's umbrella header then declares it
+// `extern template` for its records, and only the domain's own .cpp file compiles it.
+template <class T>
+std::string JSONEncoder::encode(const T& value) const {
+  std::string out;
+  detail::JsonTextSink sink(out, dateStrategy);
+  detail::encodeValue(sink, value);
+  return out;
+}
 
 }  // namespace qb

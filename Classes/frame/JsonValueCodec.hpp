@@ -143,12 +143,7 @@ class JsonValueDecoder {
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;
 
   template <class T>
-  T decode(const JsonValue& value) const {
-    T out{};
-    detail::JsonValueNode node(value, dateStrategy);
-    detail::decodeValue(node, out);
-    return out;
-  }
+  T decode(const JsonValue& value) const;
 };
 
 // Encodes a record into a JsonValue (a JsonMap for records). Throws EncodingError for a non-finite
@@ -158,11 +153,24 @@ class JsonValueEncoder {
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;
 
   template <class T>
-  JsonValue encode(const T& value) const {
-    detail::JsonValueSink sink(dateStrategy);
-    detail::encodeValue(sink, value);
-    return sink.take();
-  }
+  JsonValue encode(const T& value) const;
 };
+
+// Defined out of the classes, so that they are not inline: a domain's umbrella header then declares
+// them `extern template` for its records, and only the domain's own .cpp file compiles them.
+template <class T>
+T JsonValueDecoder::decode(const JsonValue& value) const {
+  T out{};
+  detail::JsonValueNode node(value, dateStrategy);
+  detail::decodeValue(node, out);
+  return out;
+}
+
+template <class T>
+JsonValue JsonValueEncoder::encode(const T& value) const {
+  detail::JsonValueSink sink(dateStrategy);
+  detail::encodeValue(sink, value);
+  return sink.take();
+}
 
 }  // namespace qb

@@ -50,3 +50,8 @@
 #include <QBComponentAPI/cms/typed/SimpleCmsItemModel.hpp>
 #include <QBComponentAPI/cms/typed/SimpleCmsNameModel.hpp>
 #include <QBComponentAPI/cms/typed/TaxonomyNameModel.hpp>
+
+#include <QBComponentAPI/frame/CodecInstances.hpp>
+
+// The generic codecs of these records are compiled once, by the domain's .cpp file.
+QB_CODEC_EXTERN_DOMAIN(QB_CMS_ENDPOINTS, QB_CMS_RECORDS)

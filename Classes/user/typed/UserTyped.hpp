@@ -49,3 +49,8 @@
 #include <QBComponentAPI/user/typed/UserUpdateUserPropertiesRequest.hpp>
 #include <QBComponentAPI/user/typed/UserUpdateUserPropertiesResponse.hpp>
 #include <QBComponentAPI/user/typed/VipInfoModel.hpp>
+
+#include <QBComponentAPI/frame/CodecInstances.hpp>
+
+// The generic codecs of these records are compiled once, by the domain's .cpp file.
+QB_CODEC_EXTERN_DOMAIN(QB_USER_ENDPOINTS, QB_USER_RECORDS)
