@@ -377,7 +377,7 @@ void printSplit(const char* variant, const Reply& reply, Decode decode) {
     bestDecode = std::min(bestDecode, std::chrono::duration<double, std::milli>(decoded - start).count());
     bestDestroy = std::min(bestDestroy, std::chrono::duration<double, std::milli>(destroyed - decoded).count());
   }
-  std::printf("%-12s %-16s decode %7.3f ms  destroy %7.3f ms\n", variant, reply.name.c_str(), bestDecode, bestDestroy);
+  std::printf("%-12s %-21s decode %7.3f ms  destroy %7.3f ms\n", variant, reply.name.c_str(), bestDecode, bestDestroy);
 }
 
 template <class T>
