@@ -72,5 +72,6 @@ std::string text(Rng& rng, int minWords, int maxWords);
 
 // The generators of each domain.
 std::vector<Reply> userReplies();
+std::vector<Reply> cmsReplies();
 
 }  // namespace qb::bench

@@ -1,9 +1,12 @@
-// The records the benchmarks decode and encode, in both faces: the library's own, plus `UserList` and
-// `QBBenchUserListMessage`, which exist only here to give the user record a collection-shaped reply.
+// The records the benchmarks decode and encode, in both faces: the library's own (accounts and the
+// content catalogue), plus `UserList` and `QBBenchUserListMessage`, which exist only here to give the
+// user record a collection-shaped reply.
 #pragma once
 
 #include <vector>
 
+#include <QBComponentAPI/cms/dict/CmsDict.hpp>
+#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 #include <QBComponentAPI/frame/DictModel.hpp>
 #include <QBComponentAPI/frame/Protocols.hpp>
 #include <QBComponentAPI/user/UserCatalogue.hpp>
@@ -23,11 +26,30 @@ namespace qb::bench {
 
 using qb::AutoUpdateModel;
 using qb::ClientConfigModel;
+using qb::CmsArticleModel;
+using qb::CmsDiseaseModel;
+using qb::CmsGetCmsNameListResponse;
+using qb::CmsGetCmsNameResponse;
+using qb::CmsImageModel;
+using qb::CmsLayoutModel;
+using qb::CmsNameModel;
+using qb::CmsStaticUrlModel;
+using qb::CmsTagModel;
+using qb::CmsTitleModel;
+using qb::CmsVideoModel;
+using qb::CopyrightModel;
+using qb::DiagnoseDetectModel;
+using qb::DiagnoseDetectRegionModel;
 using qb::FaqModel;
 using qb::LegalConfigModel;
+using qb::QBCmsGetCmsNameListMessage;
+using qb::QBCmsGetCmsNameMessage;
 using qb::QBUserGetConfigMessage;
 using qb::QBUserGetFaqMessage;
 using qb::QBUserInitialiseMessage;
+using qb::SimpleCmsDiseaseModel;
+using qb::SimpleCmsNameModel;
+using qb::TaxonomyNameModel;
 using qb::UserAdditionalDataModel;
 using qb::UserGetConfigResponse;
 using qb::UserGetFaqResponse;

@@ -17,6 +17,7 @@ struct DomReader {
   static void read(const V& v, std::string& out) { Dom::readString(v, out); }
   static void read(const V& v, std::int64_t& out) { out = Dom::readInt64(v); }
   static void read(const V& v, bool& out) { out = Dom::readBool(v); }
+  static void read(const V& v, double& out) { out = Dom::readDouble(v); }
   static void read(const V& v, Date& out) {
     auto date = dateFromNumber(Dom::readDouble(v), DateStrategy::secondsSince1970);
     if (!date) fail("not a date");
@@ -118,6 +119,131 @@ struct DomReader {
     member(v, "app_server_time", out.appServerTime);
     member(v, "country", out.country);
   }
+
+  // The content catalogue.
+  static void read(const V& v, TaxonomyNameModel& out) {
+    member(v, "uid", out.uid);
+    member(v, "type", out.type);
+    member(v, "taxonomy_type_name", out.taxonomyTypeName);
+    member(v, "preferred_name", out.preferredName);
+    member(v, "latin_name", out.latinName);
+    member(v, "common_names", out.commonNames);
+  }
+  static void read(const V& v, CmsTitleModel& out) {
+    member(v, "display_name", out.displayName);
+    member(v, "light_mode_icon_url", out.lightModeIconUrl);
+    member(v, "dark_mode_icon_url", out.darkModeIconUrl);
+  }
+  static void read(const V& v, CopyrightModel& out) {
+    member(v, "author", out.author);
+    member(v, "cert_icons", out.certIcons);
+    member(v, "cert_url", out.certUrl);
+    member(v, "detail_url", out.detailUrl);
+    member(v, "authorlink", out.authorlink);
+    member(v, "license", out.license);
+  }
+  static void read(const V& v, CmsStaticUrlModel& out) {
+    member(v, "light_url", out.lightUrl);
+    member(v, "dark_url", out.darkUrl);
+  }
+  static void read(const V& v, CmsTagModel& out) {
+    member(v, "type", out.type);
+    member(v, "tag_name", out.tagName);
+    member(v, "display_tag_name", out.displayTagName);
+    member(v, "cms_title", out.cmsTitle);
+    member(v, "tag_values", out.tagValues);
+    member(v, "source_url", out.sourceUrl);
+    member(v, "with_edible_or_medical_info", out.withEdibleOrMedicalInfo);
+  }
+  static void read(const V& v, CmsImageModel& out) {
+    member(v, "type", out.type);
+    member(v, "image_url", out.imageUrl);
+    member(v, "image_copyright", out.imageCopyright);
+    member(v, "tags", out.tags);
+    member(v, "comment", out.comment);
+    member(v, "similarity", out.similarity);
+  }
+  static void read(const V& v, CmsLayoutModel& out) {
+    member(v, "name", out.name);
+    member(v, "type", out.type);
+    member(v, "type_set", out.typeSet);
+    member(v, "tag_names", out.tagNames);
+    member(v, "sub_page_tag_names", out.subPageTagNames);
+    member(v, "cms_title", out.cmsTitle);
+  }
+  static void read(const V& v, SimpleCmsNameModel& out) {
+    member(v, "uid", out.uid);
+    member(v, "taxonomy_type_name", out.taxonomyTypeName);
+    member(v, "preferred_name", out.preferredName);
+    member(v, "main_image_url", out.mainImageUrl);
+    member(v, "latin_name", out.latinName);
+    member(v, "cms_static_url", out.cmsStaticUrl);
+    member(v, "properties", out.properties);
+    member(v, "cms_tags", out.cmsTags);
+  }
+  static void read(const V& v, CmsVideoModel& out) {
+    member(v, "video_classification", out.videoClassification);
+    member(v, "title", out.title);
+    member(v, "image_url", out.imageUrl);
+    member(v, "video_url", out.videoUrl);
+  }
+  static void read(const V& v, CmsArticleModel& out) {
+    member(v, "titles", out.titles);
+    member(v, "short_title", out.shortTitle);
+    member(v, "cover_image", out.coverImage);
+    member(v, "summary", out.summary);
+    member(v, "additional_summary", out.additionalSummary);
+    member(v, "author", out.author);
+    member(v, "url", out.url);
+    member(v, "dark_url", out.darkUrl);
+    member(v, "tags", out.tags);
+  }
+  static void read(const V& v, SimpleCmsDiseaseModel& out) {
+    member(v, "uid", out.uid);
+    member(v, "common_name", out.commonName);
+    member(v, "cms_layouts", out.cmsLayouts);
+    member(v, "cms_tags", out.cmsTags);
+    member(v, "cms_static_url", out.cmsStaticUrl);
+  }
+  static void read(const V& v, DiagnoseDetectRegionModel& out) {
+    member(v, "region", out.region);
+    member(v, "detection_score", out.detectionScore);
+    member(v, "strategy_score", out.strategyScore);
+  }
+  static void read(const V& v, DiagnoseDetectModel& out) { member(v, "regions", out.regions); }
+  static void read(const V& v, CmsDiseaseModel& out) {
+    member(v, "uid", out.uid);
+    member(v, "article", out.article);
+    member(v, "desc", out.desc);
+    member(v, "disease_image_url", out.diseaseImageUrl);
+    member(v, "cms_layouts", out.cmsLayouts);
+    member(v, "cms_tags", out.cmsTags);
+    member(v, "common_name", out.commonName);
+    member(v, "symptom_summary", out.symptomSummary);
+    member(v, "cms_static_url", out.cmsStaticUrl);
+    member(v, "disease_level", out.diseaseLevel);
+    member(v, "related_disease_name", out.relatedDiseaseName);
+    member(v, "diagnose_detect", out.diagnoseDetect);
+    member(v, "matched_similar_images", out.matchedSimilarImages);
+  }
+  static void read(const V& v, CmsNameModel& out) {
+    member(v, "uid", out.uid);
+    member(v, "name", out.name);
+    member(v, "taxonomy_parent", out.taxonomyParent);
+    member(v, "taxonomy_family_parent", out.taxonomyFamilyParent);
+    member(v, "taxonomies", out.taxonomies);
+    member(v, "children", out.children);
+    member(v, "layouts", out.layouts);
+    member(v, "tags", out.tags);
+    member(v, "main_image", out.mainImage);
+    member(v, "matched_similar_images", out.matchedSimilarImages);
+    member(v, "confusion", out.confusion);
+    member(v, "disease", out.disease);
+    member(v, "cms_static_url", out.cmsStaticUrl);
+    member(v, "videos", out.videos);
+  }
+  static void read(const V& v, CmsGetCmsNameResponse& out) { member(v, "cms_name", out.cmsName); }
+  static void read(const V& v, CmsGetCmsNameListResponse& out) { member(v, "cms_name_list", out.cmsNameList); }
 
   template <class T>
   static T decode(const V& root) {

@@ -71,6 +71,7 @@ void read(value v, std::string& out) {
 }
 void read(value v, std::int64_t& out) { out = v.get_int64(); }
 void read(value v, bool& out) { out = v.get_bool(); }
+void read(value v, double& out) { out = v.get_double(); }
 void read(value v, Date& out) {
   auto date = dateFromNumber(v.get_double(), DateStrategy::secondsSince1970);
   if (!date) fail("not a date");
@@ -120,6 +121,25 @@ void read(value v, std::map<std::string, AnyCodable>& out) {
     out[std::move(key)].value = toJson(f.value());
   }
 }
+// The records, defined below; declared here so that optional and list members of them resolve.
+void read(value v, TaxonomyNameModel& out);
+void read(value v, CmsTitleModel& out);
+void read(value v, CopyrightModel& out);
+void read(value v, CmsStaticUrlModel& out);
+void read(value v, CmsTagModel& out);
+void read(value v, CmsImageModel& out);
+void read(value v, CmsLayoutModel& out);
+void read(value v, SimpleCmsNameModel& out);
+void read(value v, CmsVideoModel& out);
+void read(value v, CmsArticleModel& out);
+void read(value v, SimpleCmsDiseaseModel& out);
+void read(value v, DiagnoseDetectRegionModel& out);
+void read(value v, DiagnoseDetectModel& out);
+void read(value v, CmsDiseaseModel& out);
+void read(value v, CmsNameModel& out);
+
+template <class T>
+void read(value v, std::vector<T>& out);
 template <class T>
 void read(value v, std::optional<T>& out) {
   if (v.is_null()) {
@@ -128,8 +148,6 @@ void read(value v, std::optional<T>& out) {
     read(v, out.emplace());
   }
 }
-template <class T>
-void read(value v, std::vector<T>& out);
 
 // --- Records ------------------------------------------------------------------------------------------
 
@@ -311,6 +329,338 @@ void read(value v, UserInitialiseResponse& out) {
     }
   }
   if (seen != 31) fail("Initialise: missing member");
+}
+
+// --- Content catalogue --------------------------------------------------------------------------------
+
+void read(value v, TaxonomyNameModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "uid") {
+      read(f.value(), out.uid), seen |= 1;
+    } else if (key == "type") {
+      read(f.value(), out.type), seen |= 2;
+    } else if (key == "taxonomy_type_name") {
+      read(f.value(), out.taxonomyTypeName), seen |= 4;
+    } else if (key == "preferred_name") {
+      read(f.value(), out.preferredName), seen |= 8;
+    } else if (key == "latin_name") {
+      read(f.value(), out.latinName), seen |= 16;
+    } else if (key == "common_names") {
+      read(f.value(), out.commonNames);
+    }
+  }
+  if (seen != 31) fail("TaxonomyName: missing member");
+}
+
+void read(value v, CmsTitleModel& out) {
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "display_name") {
+      read(f.value(), out.displayName);
+    } else if (key == "light_mode_icon_url") {
+      read(f.value(), out.lightModeIconUrl);
+    } else if (key == "dark_mode_icon_url") {
+      read(f.value(), out.darkModeIconUrl);
+    }
+  }
+}
+
+void read(value v, CopyrightModel& out) {
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "author") {
+      read(f.value(), out.author);
+    } else if (key == "cert_icons") {
+      read(f.value(), out.certIcons);
+    } else if (key == "cert_url") {
+      read(f.value(), out.certUrl);
+    } else if (key == "detail_url") {
+      read(f.value(), out.detailUrl);
+    } else if (key == "authorlink") {
+      read(f.value(), out.authorlink);
+    } else if (key == "license") {
+      read(f.value(), out.license);
+    }
+  }
+}
+
+void read(value v, CmsStaticUrlModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "light_url") {
+      read(f.value(), out.lightUrl), seen |= 1;
+    } else if (key == "dark_url") {
+      read(f.value(), out.darkUrl), seen |= 2;
+    }
+  }
+  if (seen != 3) fail("CmsStaticUrl: missing member");
+}
+
+void read(value v, CmsTagModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "type") {
+      read(f.value(), out.type), seen |= 1;
+    } else if (key == "tag_name") {
+      read(f.value(), out.tagName), seen |= 2;
+    } else if (key == "display_tag_name") {
+      read(f.value(), out.displayTagName);
+    } else if (key == "cms_title") {
+      read(f.value(), out.cmsTitle);
+    } else if (key == "tag_values") {
+      read(f.value(), out.tagValues), seen |= 4;
+    } else if (key == "source_url") {
+      read(f.value(), out.sourceUrl);
+    } else if (key == "with_edible_or_medical_info") {
+      read(f.value(), out.withEdibleOrMedicalInfo);
+    }
+  }
+  if (seen != 7) fail("CmsTag: missing member");
+}
+
+void read(value v, CmsImageModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "type") {
+      read(f.value(), out.type), seen |= 1;
+    } else if (key == "image_url") {
+      read(f.value(), out.imageUrl), seen |= 2;
+    } else if (key == "image_copyright") {
+      read(f.value(), out.imageCopyright);
+    } else if (key == "tags") {
+      read(f.value(), out.tags);
+    } else if (key == "comment") {
+      read(f.value(), out.comment);
+    } else if (key == "similarity") {
+      read(f.value(), out.similarity);
+    }
+  }
+  if (seen != 3) fail("CmsImage: missing member");
+}
+
+void read(value v, CmsLayoutModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "name") {
+      read(f.value(), out.name), seen |= 1;
+    } else if (key == "type") {
+      read(f.value(), out.type), seen |= 2;
+    } else if (key == "type_set") {
+      read(f.value(), out.typeSet), seen |= 4;
+    } else if (key == "tag_names") {
+      read(f.value(), out.tagNames);
+    } else if (key == "sub_page_tag_names") {
+      read(f.value(), out.subPageTagNames);
+    } else if (key == "cms_title") {
+      read(f.value(), out.cmsTitle);
+    }
+  }
+  if (seen != 7) fail("CmsLayout: missing member");
+}
+
+void read(value v, SimpleCmsNameModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "uid") {
+      read(f.value(), out.uid), seen |= 1;
+    } else if (key == "taxonomy_type_name") {
+      read(f.value(), out.taxonomyTypeName);
+    } else if (key == "preferred_name") {
+      read(f.value(), out.preferredName);
+    } else if (key == "main_image_url") {
+      read(f.value(), out.mainImageUrl);
+    } else if (key == "latin_name") {
+      read(f.value(), out.latinName);
+    } else if (key == "cms_static_url") {
+      read(f.value(), out.cmsStaticUrl);
+    } else if (key == "properties") {
+      read(f.value(), out.properties);
+    } else if (key == "cms_tags") {
+      read(f.value(), out.cmsTags);
+    }
+  }
+  if (seen != 1) fail("SimpleCmsName: missing member");
+}
+
+void read(value v, CmsVideoModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "video_classification") {
+      read(f.value(), out.videoClassification), seen |= 1;
+    } else if (key == "title") {
+      read(f.value(), out.title), seen |= 2;
+    } else if (key == "image_url") {
+      read(f.value(), out.imageUrl), seen |= 4;
+    } else if (key == "video_url") {
+      read(f.value(), out.videoUrl), seen |= 8;
+    }
+  }
+  if (seen != 15) fail("CmsVideo: missing member");
+}
+
+void read(value v, CmsArticleModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "titles") {
+      read(f.value(), out.titles);
+    } else if (key == "short_title") {
+      read(f.value(), out.shortTitle);
+    } else if (key == "cover_image") {
+      read(f.value(), out.coverImage);
+    } else if (key == "summary") {
+      read(f.value(), out.summary);
+    } else if (key == "additional_summary") {
+      read(f.value(), out.additionalSummary);
+    } else if (key == "author") {
+      read(f.value(), out.author);
+    } else if (key == "url") {
+      read(f.value(), out.url), seen |= 1;
+    } else if (key == "dark_url") {
+      read(f.value(), out.darkUrl);
+    } else if (key == "tags") {
+      read(f.value(), out.tags), seen |= 2;
+    }
+  }
+  if (seen != 3) fail("CmsArticle: missing member");
+}
+
+void read(value v, SimpleCmsDiseaseModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "uid") {
+      read(f.value(), out.uid), seen |= 1;
+    } else if (key == "common_name") {
+      read(f.value(), out.commonName);
+    } else if (key == "cms_layouts") {
+      read(f.value(), out.cmsLayouts);
+    } else if (key == "cms_tags") {
+      read(f.value(), out.cmsTags);
+    } else if (key == "cms_static_url") {
+      read(f.value(), out.cmsStaticUrl);
+    }
+  }
+  if (seen != 1) fail("SimpleCmsDisease: missing member");
+}
+
+void read(value v, DiagnoseDetectRegionModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "region") {
+      read(f.value(), out.region), seen |= 1;
+    } else if (key == "detection_score") {
+      read(f.value(), out.detectionScore), seen |= 2;
+    } else if (key == "strategy_score") {
+      read(f.value(), out.strategyScore), seen |= 4;
+    }
+  }
+  if (seen != 7) fail("DiagnoseDetectRegion: missing member");
+}
+
+void read(value v, DiagnoseDetectModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    if (f.key() == "regions") read(f.value(), out.regions), seen |= 1;
+  }
+  if (seen != 1) fail("DiagnoseDetect: missing member");
+}
+
+void read(value v, CmsDiseaseModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "uid") {
+      read(f.value(), out.uid);
+    } else if (key == "article") {
+      read(f.value(), out.article), seen |= 1;
+    } else if (key == "desc") {
+      read(f.value(), out.desc);
+    } else if (key == "disease_image_url") {
+      read(f.value(), out.diseaseImageUrl);
+    } else if (key == "cms_layouts") {
+      read(f.value(), out.cmsLayouts);
+    } else if (key == "cms_tags") {
+      read(f.value(), out.cmsTags);
+    } else if (key == "common_name") {
+      read(f.value(), out.commonName);
+    } else if (key == "symptom_summary") {
+      read(f.value(), out.symptomSummary);
+    } else if (key == "cms_static_url") {
+      read(f.value(), out.cmsStaticUrl);
+    } else if (key == "disease_level") {
+      read(f.value(), out.diseaseLevel);
+    } else if (key == "related_disease_name") {
+      read(f.value(), out.relatedDiseaseName);
+    } else if (key == "diagnose_detect") {
+      read(f.value(), out.diagnoseDetect);
+    } else if (key == "matched_similar_images") {
+      read(f.value(), out.matchedSimilarImages);
+    }
+  }
+  if (seen != 1) fail("CmsDisease: missing member");
+}
+
+void read(value v, CmsNameModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "uid") {
+      read(f.value(), out.uid), seen |= 1;
+    } else if (key == "name") {
+      read(f.value(), out.name), seen |= 2;
+    } else if (key == "taxonomy_parent") {
+      read(f.value(), out.taxonomyParent);
+    } else if (key == "taxonomy_family_parent") {
+      read(f.value(), out.taxonomyFamilyParent);
+    } else if (key == "taxonomies") {
+      read(f.value(), out.taxonomies), seen |= 4;
+    } else if (key == "children") {
+      read(f.value(), out.children);
+    } else if (key == "layouts") {
+      read(f.value(), out.layouts);
+    } else if (key == "tags") {
+      read(f.value(), out.tags);
+    } else if (key == "main_image") {
+      read(f.value(), out.mainImage);
+    } else if (key == "matched_similar_images") {
+      read(f.value(), out.matchedSimilarImages), seen |= 8;
+    } else if (key == "confusion") {
+      read(f.value(), out.confusion);
+    } else if (key == "disease") {
+      read(f.value(), out.disease);
+    } else if (key == "cms_static_url") {
+      read(f.value(), out.cmsStaticUrl);
+    } else if (key == "videos") {
+      read(f.value(), out.videos);
+    }
+  }
+  if (seen != 15) fail("CmsName: missing member");
+}
+
+void read(value v, CmsGetCmsNameResponse& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    if (f.key() == "cms_name") read(f.value(), out.cmsName), seen |= 1;
+  }
+  if (seen != 1) fail("GetCmsName: missing member");
+}
+
+void read(value v, CmsGetCmsNameListResponse& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    if (f.key() == "cms_name_list") read(f.value(), out.cmsNameList), seen |= 1;
+  }
+  if (seen != 1) fail("GetCmsNameList: missing member");
 }
 
 template <class T>
