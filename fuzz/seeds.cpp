@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "fuzz/Registry.hpp"
+#include "cms/Fixtures.hpp"
 #include "user/Fixtures.hpp"
 
 int main(int argc, char** argv) {
@@ -30,7 +31,20 @@ int main(int argc, char** argv) {
                                  kInitialiseReply,
                                  kLoginReply,
                                  R"({"faqs": [)" + kFaq + "]}",
-                                 R"({"apple_user_id": "a"})"};
+                                 R"({"apple_user_id": "a"})",
+                                 cms::kCmsName,
+                                 cms::kCmsNameList,
+                                 cms::kCmsDisease,
+                                 cms::kCmsContent,
+                                 cms::kCmsMain,
+                                 cms::kCmsTaxonomyName,
+                                 cms::kDiagnoseDetect,
+                                 cms::kSimpleCmsItem,
+                                 cms::kBook,
+                                 R"({"cms_name": )" + cms::kCmsName + "}",
+                                 R"({"cms_name_list": [)" + cms::kCmsName + "]}",
+                                 R"({"articles": [)" + cms::kCmsArticle + "]}",
+                                 R"({"share_urls": [)" + cms::kShareUrl + "]}"};
   const std::filesystem::path root(argv[1]);
   for (const char* target : {"fuzz_dict", "fuzz_typed"}) {
     std::filesystem::create_directories(root / target);

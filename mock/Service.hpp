@@ -1,4 +1,4 @@
-// qb::mock::Service: a local service that answers every account endpoint from in-memory state, over
+// qb::mock::Service: a local service that answers every endpoint of the catalogues from in-memory state, over
 // real HTTP on loopback. Used by the tests, the qbapi tool and as the qbapi-mock binary.
 #pragma once
 
@@ -17,7 +17,7 @@ class Service {
   Service& operator=(const Service&) = delete;
 
   // Starts listening on 127.0.0.1:`port` (0 picks a free port) and returns the bound port. Throws
-  // std::runtime_error when the port cannot be bound.
+  // qb::Error when the port cannot be bound.
   int start(int port = 0);
   // Stops listening and waits for the serving thread; safe to call twice.
   void stop();

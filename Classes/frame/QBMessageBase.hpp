@@ -21,7 +21,7 @@ class QBMessageBase {
   // The endpoint's relative path, for example "v3/user/get_config".
   virtual std::string api() const = 0;
   // A new parameter map built from the properties. Throws ParameterCheckFailException when a required
-  // parameter is absent, EncodingError when a record or list parameter cannot be written as JSON text.
+  // parameter is absent, EncodingError when a parameter (of any kind) cannot be written as JSON text.
   virtual JsonMap getParams() const = 0;
   // A new one-element list, {"get"} or {"post"}.
   virtual std::vector<std::string> methods() const = 0;

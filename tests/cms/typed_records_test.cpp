@@ -2,6 +2,8 @@
 // members, enumeration failures, coding paths of nested failures and the keys only this face reads.
 #include <gtest/gtest.h>
 
+#include "typed_helpers.hpp"
+
 #include <QBComponentAPI/cms/enums/CmsEnums.hpp>
 #include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
@@ -154,14 +156,7 @@ std::vector<std::string> keysOf(const JsonValue& value) {
 }
 
 DecodingError::Kind failureKind(const RecordRow& row, const std::string& json, std::string* path) {
-  try {
-    row.roundTrip(json);
-  } catch (const DecodingError& e) {
-    *path = renderCodingPath(e.codingPath());
-    return e.kind();
-  }
-  *path = "<decoded>";
-  return DecodingError::Kind::dataCorrupted;
+  return decodingFailure([&] { row.roundTrip(json); }, path);
 }
 
 TEST(CmsTypedRecords, FullRepliesRoundTripAndEncodeEveryKeyInReplyOrder) {

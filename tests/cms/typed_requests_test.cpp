@@ -2,23 +2,14 @@
 // every field and with its optional fields left out.
 #include <gtest/gtest.h>
 
+#include "typed_helpers.hpp"
+
 #include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 #include <QBComponentAPI/share/typed/ShareTyped.hpp>
 #include <functional>
 
 namespace qb {
 namespace {
-
-struct Described {
-  std::string api;
-  std::string body;
-  std::size_t mimeBodies;
-};
-
-template <APIEncodableRequest R>
-Described describe(const R& request) {
-  return {request.api(), request.parseParamater(JSONEncoder()), request.mimeBodies().size()};
-}
 
 struct RequestRow {
   std::function<Described()> described;

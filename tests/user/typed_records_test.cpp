@@ -1,6 +1,8 @@
 // Every Typed-face account record: round trip, required and optional members, enumeration rules.
 #include <gtest/gtest.h>
 
+#include "typed_helpers.hpp"
+
 #include <functional>
 
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
@@ -75,14 +77,7 @@ const std::vector<RecordRow>& rows() {
 }
 
 DecodingError::Kind failureKind(const RecordRow& row, const std::string& json, std::string* path) {
-  try {
-    row.roundTrip(json);
-  } catch (const DecodingError& e) {
-    *path = renderCodingPath(e.codingPath());
-    return e.kind();
-  }
-  *path = "<decoded>";
-  return DecodingError::Kind::dataCorrupted;
+  return decodingFailure([&] { row.roundTrip(json); }, path);
 }
 
 TEST(UserTypedRecords, FullRepliesRoundTrip) {

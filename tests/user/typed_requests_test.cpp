@@ -1,24 +1,14 @@
 // Every Typed-face account request: what it tells the host and the exact body it encodes.
 #include <gtest/gtest.h>
 
+#include "typed_helpers.hpp"
+
 #include <QBComponentAPI/user/enums/UserEnums.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
 #include <functional>
 
 namespace qb {
 namespace {
-
-// What each request tells the host beyond its path is checked against the catalogue.
-struct Described {
-  std::string api;
-  std::string body;
-  std::size_t mimeBodies;
-};
-
-template <APIEncodableRequest R>
-Described describe(const R& request) {
-  return {request.api(), request.parseParamater(JSONEncoder()), request.mimeBodies().size()};
-}
 
 const DeviceInfoModel kDevice{.deviceType = DeviceType::android, .deviceToken = "t"};
 const LoginInfoModel kLogin{.loginType = LoginType::email, .loginKey = "a@b.c", .loginPassword = "pw"};
