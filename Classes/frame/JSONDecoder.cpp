@@ -16,7 +16,7 @@ simdjson::ondemand::document& openDocument(std::string_view json) {
   return document;
 }
 
-JsonValue streamToValue(simdjson::ondemand::value value, std::size_t depth) {
+JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth) {
   simdjson::ondemand::json_type type;
   if (value.type().get(type)) throwStreamFailure();
   switch (type) {

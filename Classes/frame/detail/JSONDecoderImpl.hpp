@@ -15,7 +15,8 @@ namespace qb::detail {
 [[noreturn]] void throwStreamFailure();
 // The thread's document over `json` (copied into a padded buffer the thread reuses).
 simdjson::ondemand::document& openDocument(std::string_view json);
-JsonValue streamToValue(simdjson::ondemand::value value, std::size_t depth);
+// By reference: the parser's value is larger than the registers it would be passed in, and this recurses.
+JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth);
 
 // Reads a key without unescaping it when it has no escapes (nearly always).
 inline std::string_view fieldKey(simdjson::ondemand::field& field) {
