@@ -1,40 +1,249 @@
 #include "cli/Registry.hpp"
 
+#include <algorithm>
+#include <limits>
+
 #include <QBComponentAPI/QBComponentAPI.hpp>
 #include <QBComponentAPI/frame/detail/DictEngine.hpp>
 
 namespace qb::cli {
+
+ParameterError::ParameterError(std::string key, const std::string& reason)
+    : Error("parameter " + key + ": " + reason), key_(std::move(key)) {}
+
 namespace {
 
-// Builds the message from the arguments exactly as a model reads a map, sends it, and returns its results.
+std::string shown(const JsonValue& value) {
+  const std::string text = toJson(JsonValue(value));
+  return text.size() > 40 ? text.substr(0, 37) + "..." : text;
+}
+
+bool isInteger(const JsonValue& value) {
+  return value.is_int64() ||
+         (value.is_uint64() && value.get_uint64() <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()));
+}
+
+[[noreturn]] void throwUnknown(std::string_view key, const Endpoint& endpoint, std::string_view face) {
+  throw ParameterError(std::string(key), "not a parameter of " + std::string(endpoint.path) + " in the " +
+                                             std::string(face) + " face (see qbapi describe)");
+}
+
+[[noreturn]] void throwNotAFile(std::string_view key) {
+  throw ParameterError(std::string(key), "not a file parameter, so it cannot be given as @file");
+}
+
+[[noreturn]] void throwFileAsValue(std::string_view key) {
+  throw ParameterError(std::string(key), "a file parameter: give it as " + std::string(key) + "=@path");
+}
+
+// The Dictionary face carries its upload outside the parameter table, as the avatar property.
 template <class Message>
+constexpr bool takesAvatar = requires(Message& m) { m.setAvatar(std::vector<std::byte>{}); };
+
+// Every key must be one of the message's parameters, integers must be integers (the face would read any
+// other value as some integer, "english" as 0), files go only to the file parameter, and every required
+// parameter is given.
+template <class A>
+void checkDictionary(const Arguments& args) {
+  using Message = typename A::DictionaryMessage;
+  for (const auto& item : args.values) {
+    const std::string_view key = item.key();
+    bool known = false;
+    detail::forEachField(Message::qbParams(), [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
+      if (field.key != key) return;
+      known = true;
+      if constexpr (std::is_same_v<T, std::int64_t>) {
+        if (!isInteger(item.value())) {
+          throw ParameterError(std::string(key), "takes an integer, not " + shown(item.value()));
+        }
+      }
+    });
+    if (known) continue;
+    if (takesAvatar<Message> && key == "avatar") throwFileAsValue(key);
+    throwUnknown(key, A::endpoint, "Dictionary");
+  }
+  for (const auto& [key, bytes] : args.files) {
+    if (!(takesAvatar<Message> && key == "avatar")) throwNotAFile(key);
+  }
+  detail::forEachField(Message::qbParams(), [&](const auto& field) {
+    const auto* value = args.values.if_contains(field.key);
+    if (field.required && (!value || value->is_null())) throw ParameterError(std::string(field.key), "required, but not given");
+  });
+}
+
+// Builds the message from the arguments exactly as a model reads a map, sends it, and returns its results.
+template <class A>
 JsonValue sendDictionary(host::Client& client, const Arguments& args) {
+  using Message = typename A::DictionaryMessage;
+  checkDictionary<A>(args);
   auto message = std::make_shared<Message>();
   detail::readFields<&Message::qbParams>(*message, args.values);
-  if constexpr (requires { message->setAvatar(std::vector<std::byte>{}); }) {
+  if constexpr (takesAvatar<Message>) {
     if (const auto file = args.files.find("avatar"); file != args.files.end()) message->setAvatar(file->second);
   }
   client.send(*message);
   return detail::tableToDictionary(Message::qbResults(), *message);
 }
 
-// Decodes the request record from the arguments, sends it, and returns the response encoded again.
-template <class Request>
-JsonValue sendTyped(host::Client& client, const Arguments& args) {
-  Request request = JsonValueDecoder().decode<Request>(JsonValue(args.values));
-  if constexpr (requires { request.avatar; }) {
-    if (const auto file = args.files.find("avatar"); file != args.files.end()) request.avatar = APIFile{file->second};
+// The reason of a decoding failure of the arguments, for the key the user typed.
+std::string decodingReason(const DecodingError& error) {
+  const CodingPath& path = error.codingPath();
+  std::string where = path.size() > 1 ? " (at " + renderCodingPath(path) + ")" : "";
+  switch (error.kind()) {
+    case DecodingError::Kind::keyNotFound:
+      return path.size() > 1 ? "lacks a required key" + where : "required, but not given";
+    case DecodingError::Kind::valueNotFound: return "cannot be null" + where;
+    default: return error.debugDescription() + where;
   }
-  return JsonValueEncoder().encode(client.send(request));
+}
+
+// Decodes the request record from the arguments, refusing keys it does not have and files for members
+// that are not files, and puts each file into its member.
+template <class A>
+typename A::TypedRequest typedRequest(const Arguments& args) {
+  using Request = typename A::TypedRequest;
+  for (const auto& item : args.values) {
+    const std::string_view key = item.key();
+    bool known = false, file = false;
+    std::apply([&](const auto&... k) { ((k.name == key ? (known = true, file = k.isFile) : false), ...); },
+               Request::codingKeys);
+    if (!known) throwUnknown(key, A::endpoint, "Typed");
+    if (file) throwFileAsValue(key);
+  }
+  for (const auto& [key, bytes] : args.files) {
+    bool file = false;
+    std::apply([&](const auto&... k) { ((k.isFile && k.name == key ? (file = true) : false), ...); },
+               Request::codingKeys);
+    if (!file) throwNotAFile(key);
+  }
+  Request request = [&] {
+    try {
+      return JsonValueDecoder().decode<Request>(JsonValue(args.values));
+    } catch (const DecodingError& e) {
+      const CodingPath& path = e.codingPath();
+      const auto* key = path.empty() ? nullptr : std::get_if<std::string>(&path.front());
+      throw ParameterError(key ? *key : std::string("?"), decodingReason(e));
+    }
+  }();
+  std::apply(
+      [&](const auto&... k) {
+        (
+            [&](const auto& key) {
+              if constexpr (std::remove_cvref_t<decltype(key)>::isFile) {
+                if (const auto f = args.files.find(std::string(key.name)); f != args.files.end()) {
+                  request.*key.member = APIFile{f->second};
+                }
+              }
+            }(k),
+            ...);
+      },
+      Request::codingKeys);
+  return request;
+}
+
+template <class A>
+void checkTyped(const Arguments& args) {
+  (void)typedRequest<A>(args);
+}
+
+// Decodes the request record from the arguments, sends it, and returns the response encoded again.
+template <class A>
+JsonValue sendTyped(host::Client& client, const Arguments& args) {
+  return JsonValueEncoder().encode(client.send(typedRequest<A>(args)));
+}
+
+// The name of a Dictionary-face property type in a description.
+template <class T>
+std::string dictionaryType() {
+  using Kind = detail::DictKind<T>;
+  if constexpr (Kind::integer) return "integer";
+  else if constexpr (Kind::model) return "record";
+  else if constexpr (Kind::modelList || Kind::list) return "list";
+  else if constexpr (Kind::map) return "map";
+  else if constexpr (Kind::data) return "file";
+  else return "text";
+}
+
+// The name of a Typed-face member type in a description.
+template <class M>
+std::string typedType() {
+  if constexpr (IsOptional<M>::value) return typedType<typename M::value_type>();
+  else if constexpr (std::is_same_v<M, APIFile>) return "file";
+  else if constexpr (std::is_same_v<M, std::string>) return "text";
+  else if constexpr (std::is_same_v<M, bool>) return "boolean";
+  else if constexpr (std::is_same_v<M, Date>) return "date";
+  else if constexpr (std::is_enum_v<M> || std::is_integral_v<M>) return "integer";
+  else if constexpr (std::is_floating_point_v<M>) return "number";
+  else if constexpr (Codable<M>) return "record";
+  else if constexpr (IsVector<M>::value) return "list";
+  else if constexpr (IsStringMap<M>::value) return "map";
+  else return "value";
+}
+
+template <class A>
+Description describe() {
+  using Message = typename A::DictionaryMessage;
+  using Request = typename A::TypedRequest;
+  Description d;
+  auto parameter = [&](std::string_view key) -> ParameterInfo& {
+    const auto found = std::find_if(d.parameters.begin(), d.parameters.end(),
+                                    [&](const ParameterInfo& p) { return p.key == key; });
+    if (found != d.parameters.end()) return *found;
+    ParameterInfo& added = d.parameters.emplace_back();
+    added.key = std::string(key);
+    return added;
+  };
+  if constexpr (hasFace<Message>) {
+    detail::forEachField(Message::qbParams(), [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
+      ParameterInfo& p = parameter(field.key);
+      p.type = dictionaryType<T>();
+      p.dictionary = field.required                     ? Need::required
+                     : std::is_same_v<T, std::int64_t> ? Need::alwaysSent
+                                                       : Need::optional;
+    });
+    if constexpr (takesAvatar<Message>) {
+      ParameterInfo& p = parameter("avatar");
+      p.type = "file";
+      p.dictionary = Need::optional;
+    }
+    detail::forEachField(Message::qbResults(),
+                         [&](const auto& field) { d.dictionaryReplyKeys.emplace_back(field.key); });
+  }
+  if constexpr (hasFace<Request>) {
+    std::apply(
+        [&](const auto&... k) {
+          (
+              [&](const auto& key) {
+                using M = typename std::remove_cvref_t<decltype(key)>::Member;
+                ParameterInfo& p = parameter(key.name);
+                // The Typed declaration is the more precise one: an enumeration rather than any value.
+                p.type = typedType<M>();
+                p.typed = IsOptional<M>::value ? Need::optional : Need::required;
+              }(k),
+              ...);
+        },
+        Request::codingKeys);
+    using Response = typename Request::Response;
+    if constexpr (Codable<Response>) {
+      std::apply([&](const auto&... k) { (d.typedReplyKeys.emplace_back(k.name), ...); }, Response::codingKeys);
+    }
+  }
+  return d;
 }
 
 template <class A>
 Entry entry() {
   using Message = typename A::DictionaryMessage;
   using Request = typename A::TypedRequest;
-  Entry e{&A::endpoint, std::string(A::endpoint.path.substr(3)), nullptr, nullptr};
-  if constexpr (hasFace<Message>) e.dictionary = &sendDictionary<Message>;
-  if constexpr (hasFace<Request>) e.typed = &sendTyped<Request>;
+  Entry e{&A::endpoint, std::string(A::endpoint.path.substr(3)), nullptr, nullptr, nullptr, nullptr, &describe<A>};
+  if constexpr (hasFace<Message>) {
+    e.dictionary = &sendDictionary<A>;
+    e.checkDictionary = &checkDictionary<A>;
+  }
+  if constexpr (hasFace<Request>) {
+    e.typed = &sendTyped<A>;
+    e.checkTyped = &checkTyped<A>;
+  }
   return e;
 }
 

@@ -11,8 +11,16 @@
 
 namespace {
 
-// Exit codes.
+// Exit codes (listed in the help text). An argument the endpoint cannot take is a usage error: it is
+// found before anything is sent.
 enum Exit { kOk = 0, kUsage = 2, kCheck = 3, kHttp = 4, kTransport = 5, kAuth = 6 };
+
+constexpr const char* kExitCodes =
+    "Exit codes: 0 success; 2 usage error, including a parameter the endpoint does not take, a value of the "
+    "wrong kind, a missing required parameter or @file on a parameter that is not a file (nothing is sent); "
+    "3 a reply that could not be decoded or a request that could not be encoded; 4 HTTP error status; "
+    "5 no service could be reached (or a plain http URL without --allow-insecure-loopback); 6 the endpoint "
+    "needs --token.";
 
 std::string pretty(const qb::JsonValue& value) { return qb::toPrettyJson(value).value_or("<not JSON>"); }
 
@@ -42,6 +50,7 @@ qb::cli::Arguments parseArguments(const std::vector<std::string>& pairs) {
 
 // The exit code and the line printed for a failure of the library, the host or the in-process mock.
 std::pair<Exit, std::string> describeFailure(const qb::Error& error) {
+  if (dynamic_cast<const qb::cli::ParameterError*>(&error)) return {kUsage, error.what()};
   if (const auto* e = dynamic_cast<const qb::ParameterCheckFailException*>(&error)) {
     return {kCheck, "parameter check failed: " + e->reason()};
   }
@@ -53,6 +62,9 @@ std::pair<Exit, std::string> describeFailure(const qb::Error& error) {
   }
   if (dynamic_cast<const qb::JsonTypeError*>(&error)) {
     return {kCheck, std::string("the reply has a value of the wrong kind: ") + error.what()};
+  }
+  if (dynamic_cast<const qb::host::InsecureUrlError*>(&error)) {
+    return {kTransport, std::string(error.what()) + " (for a service on a loopback address, pass --allow-insecure-loopback)"};
   }
   if (dynamic_cast<const qb::host::AuthRequiredError*>(&error)) {
     return {kAuth, std::string(error.what()) + " (pass --token)"};
@@ -71,10 +83,14 @@ std::pair<Exit, std::string> describeFailure(const qb::Error& error) {
 
 // Runs `body` against the given base URL, or against an in-process mock service when there is none, and
 // maps every failure to its exit code.
+// Plain http is refused unless `insecureLoopback` is set (and the host is a loopback address); the
+// in-process mock service always implies it.
 int withClient(const std::string& baseUrl, const std::optional<std::string>& token,
-               const std::optional<std::string>& envelope, const std::function<void(qb::host::Client&)>& body) {
+               const std::optional<std::string>& envelope, bool insecureLoopback,
+               const std::function<void(qb::host::Client&)>& body) {
   std::optional<qb::mock::Service> mock;
   qb::host::ClientOptions options{.baseUrl = baseUrl, .envelopeKey = envelope};
+  options.allowInsecureLoopback = insecureLoopback;
   try {
     if (baseUrl.empty()) {
       mock.emplace();
@@ -101,6 +117,36 @@ void listEndpoints() {
                 std::string(e.endpoint->upperVerb()).c_str(), faces, e.endpoint->needAuth() ? "yes" : "no",
                 e.endpoint->mustAuth() ? "yes" : "no");
   }
+}
+
+const char* needName(qb::cli::Need need) {
+  switch (need) {
+    case qb::cli::Need::none: return "-";
+    case qb::cli::Need::optional: return "optional";
+    case qb::cli::Need::required: return "required";
+    case qb::cli::Need::alwaysSent: return "always sent";
+  }
+  return "?";
+}
+
+void describeEndpoint(const qb::cli::Entry& entry) {
+  const qb::cli::Description d = entry.describe();
+  std::printf("%s  %s, session %s\n\n", std::string(entry.endpoint->path).c_str(),
+              std::string(entry.endpoint->upperVerb()).c_str(),
+              entry.endpoint->mustAuth() ? "required" : entry.endpoint->needAuth() ? "used when given" : "not used");
+  std::printf("%-28s %-8s %-12s %-12s\n", "parameter", "type", "dictionary", "typed");
+  for (const auto& p : d.parameters) {
+    std::printf("%-28s %-8s %-12s %-12s\n", p.key.c_str(), p.type.c_str(),
+                entry.dictionary ? needName(p.dictionary) : "(no face)", entry.typed ? needName(p.typed) : "(no face)");
+  }
+  if (d.parameters.empty()) std::printf("(none)\n");
+  auto keys = [](const char* face, const std::vector<std::string>& list) {
+    std::printf("\nreply keys, %s face:", face);
+    for (const auto& key : list) std::printf(" %s", key.c_str());
+    std::printf("%s\n", list.empty() ? " (none)" : "");
+  };
+  if (entry.dictionary) keys("Dictionary", d.dictionaryReplyKeys);
+  if (entry.typed) keys("Typed", d.typedReplyKeys);
 }
 
 void step(int n, std::string_view face, std::string_view what) {
@@ -163,15 +209,24 @@ void demo(qb::host::Client& client) {
 int main(int argc, char** argv) {
   CLI::App app{"qbapi: call the service's endpoints through either face of QBComponentAPI"};
   app.require_subcommand(1);
+  app.footer(kExitCodes);
   std::string baseUrl;
   std::optional<std::string> token, envelope;
+  bool insecureLoopback = false;
   auto addConnection = [&](CLI::App* cmd) {
     cmd->add_option("--base-url", baseUrl, "service URL; without it an in-process mock service answers");
     cmd->add_option("--token", token, "access token for endpoints that need a session");
     cmd->add_option("--envelope", envelope, "key under which replies carry their result");
+    cmd->add_flag("--allow-insecure-loopback", insecureLoopback,
+                  "accept a plain http:// --base-url on a loopback address (127.0.0.1, ::1, localhost), "
+                  "e.g. a separately started qbapi-mock; implied for the in-process mock");
   };
 
   app.add_subcommand("endpoints", "list every endpoint with its verb, faces and flags");
+  CLI::App* describeCmd =
+      app.add_subcommand("describe", "list an endpoint's parameters, their types and faces, and its reply keys");
+  std::string describeName;
+  describeCmd->add_option("endpoint", describeName, "e.g. user/get_config")->required();
   CLI::App* call = app.add_subcommand("call", "call one endpoint and print the decoded reply");
   std::string name, face = "dict";
   std::vector<std::string> params;
@@ -180,7 +235,8 @@ int main(int argc, char** argv) {
                    "key=value pairs; values are JSON when they parse, text otherwise; key=@file uploads");
   call->add_option("--face", face, "dict or typed")->check(CLI::IsMember({"dict", "typed"}));
   addConnection(call);
-  CLI::App* demoCmd = app.add_subcommand("demo", "a scripted session against the mock service");
+  CLI::App* demoCmd =
+      app.add_subcommand("demo", "a scripted session against the built-in mock service (never a real one)");
   addConnection(demoCmd);
 
   try {
@@ -194,7 +250,25 @@ int main(int argc, char** argv) {
     listEndpoints();
     return kOk;
   }
-  if (app.got_subcommand("demo")) return withClient(baseUrl, token, envelope, demo);
+  if (app.got_subcommand("describe")) {
+    const qb::cli::Entry* entry = qb::cli::findEntry(describeName);
+    if (!entry) {
+      std::cerr << "unknown endpoint " << describeName << " (see qbapi endpoints)\n";
+      return kUsage;
+    }
+    describeEndpoint(*entry);
+    return kOk;
+  }
+  if (app.got_subcommand("demo")) {
+    // The demo renames the account it signs into and then deletes it: pointed at a real service with a
+    // real token it would destroy that account, so it only ever runs against the built-in mock.
+    if (!baseUrl.empty() || token) {
+      std::cerr << "demo runs only against the built-in mock service: it renames and then deletes the account "
+                   "it uses, so --base-url and --token are refused (use qbapi call for a real service)\n";
+      return kUsage;
+    }
+    return withClient(baseUrl, token, envelope, insecureLoopback, demo);
+  }
 
   const qb::cli::Entry* entry = qb::cli::findEntry(name);
   if (!entry) {
@@ -209,11 +283,15 @@ int main(int argc, char** argv) {
   qb::cli::Arguments args;
   try {
     args = parseArguments(params);
+    (face == "typed" ? entry->checkTyped : entry->checkDictionary)(args);
   } catch (const CLI::Error& e) {
     std::cerr << e.what() << "\n";
     return kUsage;
+  } catch (const qb::cli::ParameterError& e) {
+    std::cerr << e.what() << "\n";
+    return kUsage;
   }
-  return withClient(baseUrl, token, envelope, [&](qb::host::Client& client) {
+  return withClient(baseUrl, token, envelope, insecureLoopback, [&](qb::host::Client& client) {
     // Without a service of its own the tool opens a session on the mock first, so that calls needing one work.
     if (baseUrl.empty() && !token && entry->endpoint->needAuth()) {
       auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
