@@ -62,8 +62,8 @@ void checkDictionary(const Arguments& args) {
     if (takesAvatar<Message> && key == "avatar") throwFileAsValue(key);
     throwUnknown(key, A::endpoint, "Dictionary");
   }
-  for (const auto& [key, bytes] : args.files) {
-    if (!(takesAvatar<Message> && key == "avatar")) throwNotAFile(key);
+  for (const auto& given : args.files) {
+    if (!(takesAvatar<Message> && given.first == "avatar")) throwNotAFile(given.first);
   }
   detail::forEachField(Message::qbParams(), [&](const auto& field) {
     const auto* value = args.values.if_contains(field.key);
@@ -110,7 +110,8 @@ typename A::TypedRequest typedRequest(const Arguments& args) {
     if (!known) throwUnknown(key, A::endpoint, "Typed");
     if (file) throwFileAsValue(key);
   }
-  for (const auto& [key, bytes] : args.files) {
+  for (const auto& given : args.files) {
+    const std::string& key = given.first;
     bool file = false;
     std::apply([&](const auto&... k) { ((k.isFile && k.name == key ? (file = true) : false), ...); },
                Request::codingKeys);
