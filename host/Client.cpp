@@ -1,5 +1,7 @@
 #include <QBComponentAPI/host/Client.hpp>
 
+#include "Url.hpp"
+
 #include <random>
 #include <thread>
 
@@ -33,20 +35,6 @@ std::string formEncode(const JsonMap& params) {
   return out;
 }
 
-bool isLoopbackHost(std::string_view host) {
-  return host == "localhost" || host == "[::1]" || host.starts_with("127.");
-}
-
-// The host part of "scheme://host[:port]/..." (brackets kept for IPv6).
-std::string_view hostOf(std::string_view url) {
-  const auto start = url.find("://");
-  if (start == std::string_view::npos) return {};
-  std::string_view rest = url.substr(start + 3);
-  rest = rest.substr(0, rest.find_first_of("/?#"));
-  if (const auto at = rest.rfind('@'); at != std::string_view::npos) rest = rest.substr(at + 1);
-  if (rest.starts_with('[')) return rest.substr(0, rest.find(']') + 1);
-  return rest.substr(0, rest.find(':'));
-}
 
 bool retryableStatus(long status) { return status == 429 || status == 502 || status == 503 || status == 504; }
 
@@ -95,10 +83,11 @@ bool Client::hasAccessToken() const {
 HttpRequest Client::prepare(std::string_view api, std::string_view verb, bool forceHttps, bool needAuth,
                             bool mustAuth) const {
   const std::string_view base = options_.baseUrl;
-  if (forceHttps && !base.starts_with("https://")) {
-    if (!(options_.allowInsecureLoopback && base.starts_with("http://") && isLoopbackHost(hostOf(base)))) {
-      throw InsecureUrlError("Refusing to send over a URL that is not https: " + std::string(base));
-    }
+  const std::optional<url::Parts> parts = url::parse(base);
+  if (!parts) throw InvalidUrlError("The base URL is not an absolute http or https URL: " + url::redact(base));
+  // Plain http only to this machine, decided on the parsed host: "127.0.0.1.example.com" is not loopback.
+  if (forceHttps && parts->scheme != "https" && !(options_.allowInsecureLoopback && url::isLoopback(*parts))) {
+    throw InsecureUrlError("Refusing to send over a URL that is not https: " + url::redact(base));
   }
   HttpRequest http;
   http.method = verb == "get" || verb == "GET" ? "GET" : "POST";
