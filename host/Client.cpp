@@ -36,6 +36,14 @@ std::string formEncode(const JsonMap& params) {
 }
 
 
+// CR or LF would end a header and begin one of the sender's choosing; NUL would cut it short. The value itself
+// stays out of the message: it may be the token.
+void checkHeaderValue(std::string_view what, std::string_view value) {
+  if (value.find_first_of(std::string_view("\r\n\0", 3)) != std::string_view::npos) {
+    throw InvalidHeaderError(std::string(what) + " holds a CR, LF or NUL byte and cannot travel in a header");
+  }
+}
+
 bool retryableStatus(long status) { return status == 429 || status == 502 || status == 503 || status == 504; }
 
 }  // namespace
@@ -71,6 +79,7 @@ Client::Client(ClientOptions options, std::shared_ptr<Transport> transport)
     : options_(std::move(options)), transport_(transport ? std::move(transport) : makeCurlTransport()) {}
 
 void Client::setAccessToken(std::optional<std::string> token) {
+  if (token) checkHeaderValue("The access token", *token);
   std::lock_guard lock(mutex_);
   token_ = std::move(token);
 }
@@ -118,6 +127,12 @@ void Client::multipart(HttpRequest& http, const JsonMap& fields, const std::vect
     body += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + std::string(member.key()) + "\"\r\n\r\n" +
             parameterText(member.value()) + "\r\n";
   }
+  for (const auto& member : fields) checkHeaderValue("A form field's name", member.key());
+  for (const auto& part : parts) {
+    checkHeaderValue("A part's field name", part.field);
+    checkHeaderValue("A part's file name", part.fileName);
+    checkHeaderValue("A part's content type", part.contentType);
+  }
   for (const auto& part : parts) {
     body += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + part.field + "\"; filename=\"" +
             part.fileName + "\"\r\nContent-Type: " + part.contentType + "\r\n\r\n";
@@ -135,6 +150,9 @@ std::vector<Client::Part> Client::typedParts(const std::vector<APIMimeBody>& bod
 }
 
 std::string Client::exchange(const HttpRequest& http) {
+  // Every header this client built, checked once more where they leave it.
+  for (const auto& [name, value] : http.headers) checkHeaderValue("The " + name + " header", value);
+  checkHeaderValue("The content type", http.contentType);
   // Only GET is repeated: a POST that may have reached the service is never sent twice.
   const int attempts = http.method == "GET" ? 1 + std::max(0, options_.maxRetries) : 1;
   thread_local std::mt19937 random{std::random_device{}()};

@@ -92,5 +92,62 @@ TEST(HostSafety, TheCurlTransportSpeaksOnlyHttpAndHttps) {
   }
 }
 
+// A message with the fields and multipart bodies of the test's choosing.
+class Upload : public QBMessageBase {
+ public:
+  Upload(JsonMap fields, std::vector<QBMimeBody> bodies, std::string verb = "post")
+      : fields_(std::move(fields)), bodies_(std::move(bodies)), verb_(std::move(verb)) {}
+  std::string api() const override { return "v3/test/upload"; }
+  JsonMap getParams() const override { return fields_; }
+  std::vector<std::string> methods() const override { return {verb_}; }
+  bool forceHttps() const override { return true; }
+  bool binaryResponse() const override { return false; }
+  bool needAuth() const override { return true; }
+  bool mustAuth() const override { return false; }
+  std::vector<QBMimeBody> mimeBodies() const override { return bodies_; }
+  QBMessageBase& parseResponse(const JsonMap&) override { return *this; }
+
+ private:
+  JsonMap fields_;
+  std::vector<QBMimeBody> bodies_;
+  std::string verb_;
+};
+
+TEST(HostSafety, NoHeaderValueCarriesCrLfOrNul) {
+  auto transport = std::make_shared<host::MockTransport>();
+  std::vector<host::HttpRequest> sent;
+  EXPECT_CALL(*transport, send(testing::_)).WillRepeatedly([&](const host::HttpRequest& request) {
+    sent.push_back(request);
+    return host::HttpResponse{200, "{}"};
+  });
+  Client client({.baseUrl = "https://api.example.com/", .maxRetries = 0}, transport);
+  const std::string hostile[] = {"t\r\nX-Injected: 1", "t\nX-Injected: 1", "t\rX", std::string("t\0x", 3), "\n"};
+
+  // A token from a reply is refused when set, and the one set before stays.
+  client.setAccessToken("good");
+  for (const auto& token : hostile) {
+    EXPECT_THROW(client.setAccessToken(token), host::InvalidHeaderError) << testing::PrintToString(token);
+  }
+  const auto ok = [] { return QBMimeBody{"image/png", "avatar", "a.png", {std::byte{1}}}; };
+  Upload plain({}, {ok()});
+  client.send(plain);
+  ASSERT_EQ(sent.size(), 1u);
+  EXPECT_EQ(sent[0].headers, (std::vector<std::pair<std::string, std::string>>{{"Authorization", "Bearer good"}}));
+
+  // The header lines of a multipart part are headers too.
+  for (const auto& value : hostile) {
+    SCOPED_TRACE(testing::PrintToString(value));
+    QBMimeBody type = ok(), field = ok(), file = ok();
+    type.contentType = value;
+    field.fieldName = value;
+    file.fileName = value;
+    JsonMap fields;
+    fields[value] = "v";
+    Upload uploads[] = {{{}, {type}}, {{}, {field}}, {{}, {file}}, {fields, {ok()}}};
+    for (Upload& upload : uploads) EXPECT_THROW(client.send(upload), host::InvalidHeaderError);
+  }
+  EXPECT_EQ(sent.size(), 1u) << "nothing more was sent";
+}
+
 }  // namespace
 }  // namespace qb
