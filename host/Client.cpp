@@ -13,7 +13,10 @@ std::string percentEncode(std::string_view text) {
   std::string out;
   out.reserve(text.size());
   for (unsigned char c : text) {
-    if (std::isalnum(c) || c == '-' || c == '_' || c == '.' || c == '~') {
+    // By ASCII class, not std::isalnum: under a single-byte locale that would pass bytes such as 0xE9 raw.
+    const bool unreserved = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' ||
+                            c == '_' || c == '.' || c == '~';
+    if (unreserved) {
       out += static_cast<char>(c);
     } else {
       out += '%';

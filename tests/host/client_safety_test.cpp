@@ -149,5 +149,48 @@ TEST(HostSafety, NoHeaderValueCarriesCrLfOrNul) {
   EXPECT_EQ(sent.size(), 1u) << "nothing more was sent";
 }
 
+TEST(HostSafety, QueryAndFormTextIsEscapedByAsciiClass) {
+  auto transport = std::make_shared<host::MockTransport>();
+  std::vector<host::HttpRequest> sent;
+  EXPECT_CALL(*transport, send(testing::_)).WillRepeatedly([&](const host::HttpRequest& request) {
+    sent.push_back(request);
+    return host::HttpResponse{200, "{}"};
+  });
+  Client client({.baseUrl = "https://api.example.com/v", .maxRetries = 0}, transport);
+  client.setAccessToken("t");
+  struct Case {
+    std::string text, escaped;
+  } cases[] = {
+      {"AZaz09-_.~", "AZaz09-_.~"},
+      {"a b", "a%20b"},
+      {"&=+?#/%;", "%26%3D%2B%3F%23%2F%25%3B"},
+      {"caf\xc3\xa9", "caf%C3%A9"},
+      {"\xaa\xb5\xba\xc0\xff", "%AA%B5%BA%C0%FF"},
+      {std::string("\x7f\x01\0", 3), "%7F%01%00"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.escaped);
+    sent.clear();
+    JsonMap fields;
+    fields[c.text] = c.text;
+    Upload query(fields, {}, "get"), form(fields, {});
+    client.send(query);
+    client.send(form);
+    ASSERT_EQ(sent.size(), 2u);
+    EXPECT_EQ(sent[0].url, "https://api.example.com/v/v3/test/upload?" + c.escaped + "=" + c.escaped);
+    EXPECT_EQ(sent[1].body, c.escaped + "=" + c.escaped);
+  }
+
+  // A base URL with a query or fragment would carry the path inside it.
+  sent.clear();
+  for (const char* baseUrl : {"https://api.example.com/?x=1", "https://api.example.com/v#top", "https://api.example.com?",
+                              "http://127.0.0.1/#"}) {
+    Client broken({.baseUrl = baseUrl, .allowInsecureLoopback = true}, transport);
+    broken.setAccessToken("t");
+    EXPECT_THROW(broken.send(kConfig), host::InvalidUrlError) << baseUrl;
+  }
+  EXPECT_TRUE(sent.empty());
+}
+
 }  // namespace
 }  // namespace qb
