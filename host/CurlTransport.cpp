@@ -5,6 +5,8 @@
 
 #include <QBComponentAPI/host/Client.hpp>
 
+#include "Url.hpp"
+
 namespace qb::host {
 namespace {
 
@@ -87,8 +89,9 @@ class CurlTransport final : public Transport {
     }
     const CURLcode code = curl_easy_perform(curl);
     if (code != CURLE_OK) {
-      // The URL is the app's own; headers (and so the token) never appear in the message.
-      throw TransportError(std::string(curl_easy_strerror(code)) + " (" + request.method + " " + request.url + ")");
+      // Headers (and so the token) never appear in the message, nor the URL's user info and query.
+      throw TransportError(std::string(curl_easy_strerror(code)) + " (" + request.method + " " +
+                           url::redact(request.url) + ")");
     }
     curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &response.status);
     return response;
