@@ -1,5 +1,7 @@
 #include <QBComponentAPI/host/Client.hpp>
 
+#include "Url.hpp"
+
 #include <random>
 #include <thread>
 
@@ -11,7 +13,10 @@ std::string percentEncode(std::string_view text) {
   std::string out;
   out.reserve(text.size());
   for (unsigned char c : text) {
-    if (std::isalnum(c) || c == '-' || c == '_' || c == '.' || c == '~') {
+    // By ASCII class, not std::isalnum: under a single-byte locale that would pass bytes such as 0xE9 raw.
+    const bool unreserved = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' ||
+                            c == '_' || c == '.' || c == '~';
+    if (unreserved) {
       out += static_cast<char>(c);
     } else {
       out += '%';
@@ -33,19 +38,62 @@ std::string formEncode(const JsonMap& params) {
   return out;
 }
 
-bool isLoopbackHost(std::string_view host) {
-  return host == "localhost" || host == "[::1]" || host.starts_with("127.");
+
+// CR or LF would end a header and begin one of the sender's choosing; NUL would cut it short. The value itself
+// stays out of the message: it may be the token.
+void checkHeaderValue(std::string_view what, std::string_view value) {
+  if (value.find_first_of(std::string_view("\r\n\0", 3)) != std::string_view::npos) {
+    throw InvalidHeaderError(std::string(what) + " holds a CR, LF or NUL byte and cannot travel in a header");
+  }
 }
 
-// The host part of "scheme://host[:port]/..." (brackets kept for IPv6).
-std::string_view hostOf(std::string_view url) {
-  const auto start = url.find("://");
-  if (start == std::string_view::npos) return {};
-  std::string_view rest = url.substr(start + 3);
-  rest = rest.substr(0, rest.find_first_of("/?#"));
-  if (const auto at = rest.rfind('@'); at != std::string_view::npos) rest = rest.substr(at + 1);
-  if (rest.starts_with('[')) return rest.substr(0, rest.find(']') + 1);
-  return rest.substr(0, rest.find(':'));
+// The length of the well-formed UTF-8 sequence at the start of text (no overlong forms, surrogates or code
+// points past U+10FFFF), or 0.
+std::size_t utf8Sequence(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char lead = byte(0);
+  std::size_t length;
+  unsigned char low = 0x80, high = 0xBF;  // the range of the second byte
+  if (lead >= 0xC2 && lead <= 0xDF) {
+    length = 2;
+  } else if (lead >= 0xE0 && lead <= 0xEF) {
+    length = 3;
+    if (lead == 0xE0) low = 0xA0;
+    if (lead == 0xED) high = 0x9F;
+  } else if (lead >= 0xF0 && lead <= 0xF4) {
+    length = 4;
+    if (lead == 0xF0) low = 0x90;
+    if (lead == 0xF4) high = 0x8F;
+  } else {
+    return 0;
+  }
+  if (text.size() < length || byte(1) < low || byte(1) > high) return 0;
+  for (std::size_t i = 2; i < length; ++i) {
+    if (byte(i) < 0x80 || byte(i) > 0xBF) return 0;
+  }
+  return length;
+}
+
+// A reply body as an error message may show it: control bytes, DEL and bytes that are not UTF-8 as \xHH,
+// so that a hostile body cannot drive the terminal or log it is printed to.
+std::string printable(std::string_view body) {
+  static constexpr char kHex[] = "0123456789abcdef";
+  std::string out;
+  out.reserve(body.size());
+  while (!body.empty()) {
+    const auto c = static_cast<unsigned char>(body.front());
+    std::size_t length = c >= 0x20 && c < 0x7f ? 1 : c >= 0x80 ? utf8Sequence(body) : 0;
+    if (length == 0) {
+      out += "\\x";
+      out += kHex[c >> 4];
+      out += kHex[c & 0xF];
+      length = 1;
+    } else {
+      out.append(body.substr(0, length));
+    }
+    body.remove_prefix(length);
+  }
+  return out;
 }
 
 bool retryableStatus(long status) { return status == 429 || status == 502 || status == 503 || status == 504; }
@@ -53,7 +101,7 @@ bool retryableStatus(long status) { return status == 429 || status == 502 || sta
 }  // namespace
 
 HttpError::HttpError(long status, std::string body)
-    : HostError("HTTP status " + std::to_string(status) + ": " + body.substr(0, 512)),
+    : HostError("HTTP status " + std::to_string(status) + ": " + printable(std::string_view(body).substr(0, 512))),
       status_(status),
       body_(std::move(body)) {
   // Read once here, so that the accessors are plain. Any body may come back (an HTML error page, a proxy's
@@ -83,6 +131,7 @@ Client::Client(ClientOptions options, std::shared_ptr<Transport> transport)
     : options_(std::move(options)), transport_(transport ? std::move(transport) : makeCurlTransport()) {}
 
 void Client::setAccessToken(std::optional<std::string> token) {
+  if (token) checkHeaderValue("The access token", *token);
   std::lock_guard lock(mutex_);
   token_ = std::move(token);
 }
@@ -95,10 +144,11 @@ bool Client::hasAccessToken() const {
 HttpRequest Client::prepare(std::string_view api, std::string_view verb, bool forceHttps, bool needAuth,
                             bool mustAuth) const {
   const std::string_view base = options_.baseUrl;
-  if (forceHttps && !base.starts_with("https://")) {
-    if (!(options_.allowInsecureLoopback && base.starts_with("http://") && isLoopbackHost(hostOf(base)))) {
-      throw InsecureUrlError("Refusing to send over a URL that is not https: " + std::string(base));
-    }
+  const std::optional<url::Parts> parts = url::parse(base);
+  if (!parts) throw InvalidUrlError("The base URL is not an absolute http or https URL: " + url::redact(base));
+  // Plain http only to this machine, decided on the parsed host: "127.0.0.1.example.com" is not loopback.
+  if (forceHttps && parts->scheme != "https" && !(options_.allowInsecureLoopback && url::isLoopback(*parts))) {
+    throw InsecureUrlError("Refusing to send over a URL that is not https: " + url::redact(base));
   }
   HttpRequest http;
   http.method = verb == "get" || verb == "GET" ? "GET" : "POST";
@@ -129,6 +179,12 @@ void Client::multipart(HttpRequest& http, const JsonMap& fields, const std::vect
     body += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + std::string(member.key()) + "\"\r\n\r\n" +
             parameterText(member.value()) + "\r\n";
   }
+  for (const auto& member : fields) checkHeaderValue("A form field's name", member.key());
+  for (const auto& part : parts) {
+    checkHeaderValue("A part's field name", part.field);
+    checkHeaderValue("A part's file name", part.fileName);
+    checkHeaderValue("A part's content type", part.contentType);
+  }
   for (const auto& part : parts) {
     body += "--" + boundary + "\r\nContent-Disposition: form-data; name=\"" + part.field + "\"; filename=\"" +
             part.fileName + "\"\r\nContent-Type: " + part.contentType + "\r\n\r\n";
@@ -146,6 +202,9 @@ std::vector<Client::Part> Client::typedParts(const std::vector<APIMimeBody>& bod
 }
 
 std::string Client::exchange(const HttpRequest& http) {
+  // Every header this client built, checked once more where they leave it.
+  for (const auto& [name, value] : http.headers) checkHeaderValue("The " + name + " header", value);
+  checkHeaderValue("The content type", http.contentType);
   // Only GET is repeated: a POST that may have reached the service is never sent twice.
   const int attempts = http.method == "GET" ? 1 + std::max(0, options_.maxRetries) : 1;
   thread_local std::mt19937 random{std::random_device{}()};

@@ -57,10 +57,22 @@ class InsecureUrlError : public HostError {
  public:
   using HostError::HostError;
 };
+// A header value (the access token, a multipart part's name, file name or type) holds CR, LF or NUL, which
+// would end the header and start another; nothing was sent.
+class InvalidHeaderError : public HostError {
+ public:
+  using HostError::HostError;
+};
+// The base URL is not an absolute http or https URL that a path can be appended to (a malformed host or
+// port, a query or fragment, spaces or control bytes); nothing was sent.
+class InvalidUrlError : public HostError {
+ public:
+  using HostError::HostError;
+};
 
 struct ClientOptions {
   std::string baseUrl;                 // "https://api.example.com/" (the path "v3/..." is appended)
-  bool allowInsecureLoopback = false;  // accept http:// for 127.0.0.0/8, localhost and [::1]
+  bool allowInsecureLoopback = false;  // accept http:// for 127.0.0.0/8 (dotted quad), localhost and [::1]
   std::chrono::milliseconds timeout{15000};
   int maxRetries = 2;                      // extra attempts for GET on transport failures and 429/502/503/504
   std::chrono::milliseconds backoff{200};  // first retry delay; doubles each time, with ±50% jitter
@@ -73,7 +85,8 @@ class Client {
   // Uses the libcurl transport unless one is given.
   explicit Client(ClientOptions options, std::shared_ptr<Transport> transport = nullptr);
 
-  // The token attached to endpoints that need authentication; std::nullopt to sign out.
+  // The token attached to endpoints that need authentication; std::nullopt to sign out. Throws
+  // InvalidHeaderError, and keeps the token it had, when the token holds CR, LF or NUL.
   void setAccessToken(std::optional<std::string> token);
   bool hasAccessToken() const;
 

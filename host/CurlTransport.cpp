@@ -5,6 +5,8 @@
 
 #include <QBComponentAPI/host/Client.hpp>
 
+#include "Url.hpp"
+
 namespace qb::host {
 namespace {
 
@@ -67,6 +69,14 @@ class CurlTransport final : public Transport {
     curl_easy_setopt(curl, CURLOPT_URL, request.url.c_str());
     curl_easy_setopt(curl, CURLOPT_HTTPHEADER, cleanup.headers);
     curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
+    // Only HTTP and HTTPS, whatever URL arrives; redirects are not followed, and would be held to the same.
+#if LIBCURL_VERSION_NUM >= 0x075500
+    curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(curl, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+#else
+    curl_easy_setopt(curl, CURLOPT_PROTOCOLS, CURLPROTO_HTTP | CURLPROTO_HTTPS);
+    curl_easy_setopt(curl, CURLOPT_REDIR_PROTOCOLS, CURLPROTO_HTTP | CURLPROTO_HTTPS);
+#endif
     curl_easy_setopt(curl, CURLOPT_TIMEOUT_MS, static_cast<long>(request.timeout.count()));
     curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(request.timeout.count()));
     curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &collect);
@@ -79,8 +89,9 @@ class CurlTransport final : public Transport {
     }
     const CURLcode code = curl_easy_perform(curl);
     if (code != CURLE_OK) {
-      // The URL is the app's own; headers (and so the token) never appear in the message.
-      throw TransportError(std::string(curl_easy_strerror(code)) + " (" + request.method + " " + request.url + ")");
+      // Headers (and so the token) never appear in the message, nor the URL's user info and query.
+      throw TransportError(std::string(curl_easy_strerror(code)) + " (" + request.method + " " +
+                           url::redact(request.url) + ")");
     }
     curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &response.status);
     return response;
