@@ -1,5 +1,7 @@
 #include <QBComponentAPI/host/Client.hpp>
 
+#include <QBComponentAPI/frame/detail/Utf8.hpp>
+
 #include "Url.hpp"
 
 #include <random>
@@ -47,32 +49,6 @@ void checkHeaderValue(std::string_view what, std::string_view value) {
   }
 }
 
-// The length of the well-formed UTF-8 sequence at the start of text (no overlong forms, surrogates or code
-// points past U+10FFFF), or 0.
-std::size_t utf8Sequence(std::string_view text) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned char lead = byte(0);
-  std::size_t length;
-  unsigned char low = 0x80, high = 0xBF;  // the range of the second byte
-  if (lead >= 0xC2 && lead <= 0xDF) {
-    length = 2;
-  } else if (lead >= 0xE0 && lead <= 0xEF) {
-    length = 3;
-    if (lead == 0xE0) low = 0xA0;
-    if (lead == 0xED) high = 0x9F;
-  } else if (lead >= 0xF0 && lead <= 0xF4) {
-    length = 4;
-    if (lead == 0xF0) low = 0x90;
-    if (lead == 0xF4) high = 0x8F;
-  } else {
-    return 0;
-  }
-  if (text.size() < length || byte(1) < low || byte(1) > high) return 0;
-  for (std::size_t i = 2; i < length; ++i) {
-    if (byte(i) < 0x80 || byte(i) > 0xBF) return 0;
-  }
-  return length;
-}
 
 // A reply body as an error message may show it: control bytes, DEL and bytes that are not UTF-8 as \xHH,
 // so that a hostile body cannot drive the terminal or log it is printed to.
@@ -82,7 +58,7 @@ std::string printable(std::string_view body) {
   out.reserve(body.size());
   while (!body.empty()) {
     const auto c = static_cast<unsigned char>(body.front());
-    std::size_t length = c >= 0x20 && c < 0x7f ? 1 : c >= 0x80 ? utf8Sequence(body) : 0;
+    std::size_t length = c >= 0x20 && c < 0x7f ? 1 : c >= 0x80 ? detail::utf8Sequence(body).length : 0;
     if (length == 0) {
       out += "\\x";
       out += kHex[c >> 4];

@@ -1,5 +1,6 @@
 #include <QBComponentAPI/frame/Json.hpp>
 #include <QBComponentAPI/frame/detail/JsonFault.hpp>
+#include <QBComponentAPI/frame/detail/Utf8.hpp>
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -273,32 +274,13 @@ class Scanner {
     return std::nullopt;
   }
 
-  // One multi-byte UTF-8 sequence, as the Unicode standard defines well-formed ones: no overlong forms,
-  // no encoded surrogates, nothing past U+10FFFF.
+  // One multi-byte UTF-8 sequence.
   std::optional<JsonFault> utf8() {
     const std::size_t start = i_;
-    const unsigned char lead = current();
-    std::size_t length = 0;
-    unsigned char low = 0x80, high = 0xBF;  // the range of the second byte
-    if (lead >= 0xC2 && lead <= 0xDF) {
-      length = 2;
-    } else if (lead >= 0xE0 && lead <= 0xEF) {
-      length = 3;
-      if (lead == 0xE0) low = 0xA0;
-      if (lead == 0xED) high = 0x9F;
-    } else if (lead >= 0xF0 && lead <= 0xF4) {
-      length = 4;
-      if (lead == 0xF0) low = 0x90;
-      if (lead == 0xF4) high = 0x8F;
-    } else {
-      return fault(Kind::invalidUtf8, start);
-    }
-    for (std::size_t k = 1; k < length; ++k) {
-      if (start + k >= s_.size()) return fault(Kind::unexpectedEnd, s_.size());
-      const unsigned char next = at(start + k);
-      if (next < (k == 1 ? low : 0x80) || next > (k == 1 ? high : 0xBF)) return fault(Kind::invalidUtf8, start);
-    }
-    i_ = start + length;
+    const Utf8Sequence sequence = utf8Sequence(s_.substr(start));
+    if (sequence.truncated) return fault(Kind::unexpectedEnd, s_.size());
+    if (sequence.length == 0) return fault(Kind::invalidUtf8, start);
+    i_ = start + sequence.length;
     return std::nullopt;
   }
 
