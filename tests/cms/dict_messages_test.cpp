@@ -17,14 +17,7 @@ using namespace fixtures::cms;
 
 JsonValue text(const char* s) { return JsonValue(s); }
 
-using Mutator = std::function<void(QBMessageBase&)>;
 using ResultProbe = std::function<bool(QBMessageBase&)>;
-
-// Clears one parameter of a message through its setter.
-template <class M, class T>
-Mutator unset(void (M::*setter)(T)) {
-  return [setter](QBMessageBase& message) { (dynamic_cast<M&>(message).*setter)(T{}); };
-}
 
 // Whether a message's one result is present.
 template <class M, class Getter>
@@ -120,15 +113,7 @@ TEST(CmsDictMessages, BuildTheirParameters) {
 TEST(CmsDictMessages, EachMissingRequiredParameterRaisesItsReason) {
   for (const auto& row : rows()) {
     SCOPED_TRACE(row.action);
-    const auto bare = row.full();
-    for (const auto& [clear, reason] : row.required) {
-      const auto message = row.full();
-      clear(*message);
-      EXPECT_EQ(reasonOf([&] { message->getParams(); }), reason);
-      clear(*bare);
-    }
-    // With every required parameter gone, the first in check order is named.
-    EXPECT_EQ(reasonOf([&] { bare->getParams(); }), row.required.empty() ? "<none>" : row.required.front().second);
+    expectRequiredParametersRaise(row.full, row.required);
   }
 }
 

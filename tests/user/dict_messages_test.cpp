@@ -22,14 +22,7 @@ std::shared_ptr<QBAPIDeviceInfo> deviceInfo() {
 }
 JsonValue text(const char* s) { return JsonValue(s); }
 
-using Mutator = std::function<void(QBMessageBase&)>;
 using ResultProbe = std::function<std::vector<bool>(QBMessageBase&)>;
-
-// Clears one parameter of a message through its setter.
-template <class M, class T>
-Mutator unset(void (M::*setter)(T)) {
-  return [setter](QBMessageBase& message) { (dynamic_cast<M&>(message).*setter)(T{}); };
-}
 
 // Which of a message's results are present, in the order of the getters given.
 template <class M, class... Getters>
@@ -174,15 +167,7 @@ TEST(UserDictMessages, BuildTheirParameters) {
 TEST(UserDictMessages, EachMissingRequiredParameterRaisesItsReason) {
   for (const auto& row : rows()) {
     SCOPED_TRACE(row.path);
-    const auto bare = row.full();
-    for (const auto& [clear, reason] : row.required) {
-      const auto message = row.full();
-      clear(*message);
-      EXPECT_EQ(reasonOf([&] { message->getParams(); }), reason);
-      clear(*bare);
-    }
-    // With every required parameter gone, the first in check order is named.
-    EXPECT_EQ(reasonOf([&] { bare->getParams(); }), row.required.empty() ? "<none>" : row.required.front().second);
+    expectRequiredParametersRaise(row.full, row.required);
   }
 }
 
