@@ -198,9 +198,7 @@ Description describe() {
     detail::forEachField(Message::qbParams(), [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
       ParameterInfo& p = parameter(field.key);
       p.type = dictionaryType<T>();
-      p.dictionary = field.required                     ? Need::required
-                     : std::is_same_v<T, std::int64_t> ? Need::alwaysSent
-                                                       : Need::optional;
+      p.dictionary = field.required ? Need::required : field.alwaysSent() ? Need::alwaysSent : Need::optional;
     });
     if constexpr (takesAvatar<Message>) {
       ParameterInfo& p = parameter("avatar");

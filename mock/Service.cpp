@@ -3,6 +3,7 @@
 #include <httplib.h>
 
 #include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
 #include <algorithm>
 #include <chrono>
@@ -12,8 +13,6 @@
 #include <random>
 #include <stdexcept>
 #include <thread>
-
-#include <QBComponentAPI/frame/Errors.hpp>
 
 #include "mock/Handlers.hpp"
 
@@ -60,15 +59,8 @@ JsonValue parameterValue(const std::string& text) {
 template <class Message>
 std::vector<std::string_view> alwaysSentByDictionary() {
   std::vector<std::string_view> keys;
-  std::apply(
-      [&](const auto&... field) {
-        (
-            [&]<class Owner, class T>(const dict::Field<Owner, T>& f) {
-              if (f.required || std::is_same_v<T, std::int64_t>) keys.push_back(f.key);
-            }(field),
-            ...);
-      },
-      Message::qbParams());
+  std::apply([&](const auto&... field) { ((field.alwaysSent() ? keys.push_back(field.key) : void()), ...); },
+             Message::qbParams());
   return keys;
 }
 
@@ -356,8 +348,8 @@ struct Service::State {
     if (found == all.end()) throw std::logic_error("qbapi-mock has no handler for " + std::string(endpoint.path));
     Handler handler = std::move(found->second);
     all.erase(found);
-    auto handle = [this, handler = std::move(handler), required = requiredParameters<A>()](
-                      const httplib::Request& req, httplib::Response& res) {
+    auto handle = [this, handler = std::move(handler), required = requiredParameters<A>()](const httplib::Request& req,
+                                                                                           httplib::Response& res) {
       ++requests;
       try {
         Call call = parse(req);

@@ -20,6 +20,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <type_traits>
 #include <vector>
 
 #include <QBComponentAPI/frame/Atomic.hpp>
@@ -82,6 +83,10 @@ struct Field {
   std::string_view name;
   Atomic<T> Owner::*member;
   bool required;
+
+  // Whether a message's getParams always puts this parameter in its map: an integer always (it cannot be
+  // absent), any other parameter when it is required (absent, getParams raises instead).
+  constexpr bool alwaysSent() const noexcept { return required || std::is_same_v<T, std::int64_t>; }
 };
 
 template <class Owner, class T>
