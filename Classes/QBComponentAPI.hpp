@@ -21,7 +21,14 @@
 #include <QBComponentAPI/cms/dict/CmsDict.hpp>
 #include <QBComponentAPI/cms/enums/CmsEnums.hpp>
 #include <QBComponentAPI/cms/typed/CmsTyped.hpp>
+#include <QBComponentAPI/item/dict/ItemDict.hpp>
+#include <QBComponentAPI/item/typed/ItemTyped.hpp>
 #include <QBComponentAPI/share/typed/ShareTyped.hpp>
+#include <QBComponentAPI/support/dict/SupportDict.hpp>
+#include <QBComponentAPI/support/enums/SupportEnums.hpp>
+#include <QBComponentAPI/support/typed/SupportTyped.hpp>
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/enums/UserEnums.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/vip/dict/VipDict.hpp>
+#include <QBComponentAPI/vip/typed/VipTyped.hpp>

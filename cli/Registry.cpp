@@ -246,9 +246,16 @@ Entry entry() {
   return e;
 }
 
+// One entry per path: a further Dictionary-face message of an endpoint is reached through the first.
 template <class... A>
-std::vector<Entry> entries(TypeList<A...>) {
-  return {entry<A>()...};
+std::vector<Entry> entries(TypeList<A...> all) {
+  std::vector<Entry> out;
+  (
+      [&] {
+        if constexpr (!repeatsPath<A>(all)) out.push_back(entry<A>());
+      }(),
+      ...);
+  return out;
 }
 
 }  // namespace
@@ -263,6 +270,37 @@ const Entry* findEntry(std::string_view name) {
     if (e.name == name || e.endpoint->path == name) return &e;
   }
   return nullptr;
+}
+
+std::string endpointTable() {
+  std::string table =
+      "| Endpoint | Verb | Session | Dictionary face | Typed face |\n|---|---|---|---|---|\n";
+  std::vector<EndpointNames> rows;
+  for (const auto& domain : kCatalogueEndpointNames) {
+    for (const EndpointNames& line : domain) {
+      const auto same = std::find_if(rows.begin(), rows.end(),
+                                     [&](const EndpointNames& row) { return row.endpoint->path == line.endpoint->path; });
+      if (same == rows.end()) {
+        rows.push_back(line);
+      } else {
+        // Only a further Dictionary-face message repeats a path; it is listed with the first.
+        rows.push_back(EndpointNames{same->endpoint, line.message, {}});
+      }
+    }
+  }
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const Endpoint& e = *rows[i].endpoint;
+    if (i > 0 && rows[i - 1].endpoint->path == e.path) continue;
+    std::string messages = rows[i].message.empty() ? "" : "`" + std::string(rows[i].message) + "`";
+    for (std::size_t j = i + 1; j < rows.size() && rows[j].endpoint->path == e.path; ++j) {
+      messages += ", `" + std::string(rows[j].message) + "`";
+    }
+    const char* session = e.auth == Auth::required ? "required" : e.auth == Auth::optional ? "optional" : "none";
+    table += "| " + std::string(e.path) + " | " + std::string(e.upperVerb()) + " | " + session + " | " +
+             (messages.empty() ? "-" : messages) + " | " +
+             (rows[i].request.empty() ? "-" : "`" + std::string(rows[i].request) + "`") + " |\n";
+  }
+  return table;
 }
 
 }  // namespace qb::cli

@@ -72,4 +72,8 @@ struct Entry {
 const std::vector<Entry>& registry();
 const Entry* findEntry(std::string_view name);
 
+// Every endpoint of the catalogues as a Markdown table (path, verb, session, each face's classes), one
+// row per path, in catalogue order: the README's endpoint table.
+std::string endpointTable();
+
 }  // namespace qb::cli

@@ -52,6 +52,13 @@ struct Record {
   using Typed = TypedModel;
 };
 
+// A catalogue line's endpoint and the class names of its faces (empty for a face it lacks).
+struct EndpointNames {
+  const Endpoint* endpoint;
+  std::string_view message;
+  std::string_view request;
+};
+
 template <class Message, class Request>
 constexpr Faces facesOf() {
   if constexpr (hasFace<Message> && hasFace<Request>) {
@@ -106,6 +113,21 @@ constexpr void forEachType(TypeList<T...>, F&& f) {
   (f.template operator()<T>(), ...);
 }
 
+// Whether an endpoint (a qb::Api) repeats the path of an earlier entry of the list: the line of a
+// further Dictionary-face message of an endpoint that already has its line. Everything that lists
+// endpoints counts such a path once, under its first line.
+template <class A, class... All>
+constexpr bool repeatsPath(TypeList<All...>) {
+  bool reached = false, repeats = false;
+  (
+      [&] {
+        if (std::is_same_v<A, All>) reached = true;
+        if (!reached && All::endpoint.path == A::endpoint.path) repeats = true;
+      }(),
+      ...);
+  return repeats;
+}
+
 }  // namespace qb
 
 // --- Expansion callbacks -----------------------------------------------------------------------------
@@ -144,10 +166,15 @@ constexpr void forEachType(TypeList<T...>, F&& f) {
 #define QB_CATALOGUE_CLASS_NAMES_BOTH_(constant, path, verb, auth, Message, Request) \
   std::string_view(#Message), std::string_view(#Request),
 #define QB_CATALOGUE_CLASS_NAME_ONE_(constant, path, verb, auth, Name) std::string_view(#Name),
+#define QB_CATALOGUE_NAMES_BOTH_(constant, path, verb, auth, Message, Request) \
+  ::qb::EndpointNames{&constant, #Message, #Request},
+#define QB_CATALOGUE_NAMES_DICT_(constant, path, verb, auth, Message) ::qb::EndpointNames{&constant, #Message, {}},
+#define QB_CATALOGUE_NAMES_TYPED_(constant, path, verb, auth, Request) ::qb::EndpointNames{&constant, {}, #Request},
 
 // Declares, in namespace qb::<domain>: the endpoint constants (kGetConfig, ...), `Endpoints` (a TypeList
 // of qb::Api) and `Records` (a TypeList of qb::Record), and `kClassNames`, the name of every class of
-// the catalogue (messages, requests, records), for checks against the source tree.
+// the catalogue (messages, requests, records), for checks against the source tree, and `kEndpointNames`,
+// each line's endpoint with the names of its face classes, for listings.
 #define QB_CATALOGUE(domain, ENDPOINTS, RECORDS)                                                                    \
   namespace qb {                                                                                                    \
   ENDPOINTS(QB_CATALOGUE_FORWARD_BOTH_, QB_CATALOGUE_FORWARD_DICT_, QB_CATALOGUE_FORWARD_TYPED_)                    \
@@ -161,6 +188,8 @@ constexpr void forEachType(TypeList<T...>, F&& f) {
   inline constexpr std::string_view kClassNames[] = {                                                               \
       ENDPOINTS(QB_CATALOGUE_CLASS_NAMES_BOTH_, QB_CATALOGUE_CLASS_NAME_ONE_, QB_CATALOGUE_CLASS_NAME_ONE_)         \
           RECORDS(QB_CATALOGUE_RECORD_NAME_BOTH_, QB_CATALOGUE_RECORD_NAME_ONE_, QB_CATALOGUE_RECORD_NAME_ONE_)};   \
+  inline constexpr ::qb::EndpointNames kEndpointNames[] = {                                                         \
+      ENDPOINTS(QB_CATALOGUE_NAMES_BOTH_, QB_CATALOGUE_NAMES_DICT_, QB_CATALOGUE_NAMES_TYPED_)};                    \
   }                                                                                                                 \
   }
 

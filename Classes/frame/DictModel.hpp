@@ -159,6 +159,9 @@ class DictMessage : public QBMessageBase {
 // Field-table entries.
 #define QB_REQUIRED(name, key) ::qb::dict::field(key, #name, &Self::name##_, true)
 #define QB_OPTIONAL(name, key) ::qb::dict::field(key, #name, &Self::name##_, false)
+// A required field whose reasons name it `reasonName` instead of its property name (for a record whose
+// reason text has always spelt the field otherwise).
+#define QB_REQUIRED_AS(name, key, reasonName) ::qb::dict::field(key, reasonName, &Self::name##_, true)
 
 // The tables: model fields, message parameters, message results (each in declared order).
 #define QB_FIELDS(...) \

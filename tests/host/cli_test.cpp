@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
 #include "cli/Registry.hpp"
 #include "mock/Service.hpp"
@@ -222,6 +224,28 @@ TEST(CliDescribe, AgreesWithTheChecksForEveryEndpoint) {
       }
     }
   }
+}
+
+}  // namespace
+}  // namespace qb
+
+namespace qb {
+namespace {
+
+// The README's endpoint table is the one the catalogues give; after adding an endpoint, paste the output
+// of `qbapi endpoints --markdown` between the markers.
+TEST(CliEndpoints, ReadmeTableMatchesTheCatalogues) {
+  std::ifstream file(std::string(QB_SOURCE_DIR) + "/README.md");
+  const std::string readme((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  const std::string begin = "<!-- endpoints:begin -->\n", end = "<!-- endpoints:end -->";
+  const auto from = readme.find(begin), to = readme.find(end);
+  ASSERT_NE(from, std::string::npos);
+  ASSERT_NE(to, std::string::npos);
+  EXPECT_EQ(readme.substr(from + begin.size(), to - from - begin.size()), cli::endpointTable());
+  // One row per endpoint, one registry entry per path.
+  const auto rows = std::count(readme.begin() + static_cast<std::ptrdiff_t>(from),
+                               readme.begin() + static_cast<std::ptrdiff_t>(to), '\n') - 3;
+  EXPECT_EQ(static_cast<std::size_t>(rows), cli::registry().size());
 }
 
 }  // namespace
