@@ -6,6 +6,8 @@
 
 #include "cli/Registry.hpp"
 #include "mock/Service.hpp"
+#include <QBComponentAPI/host/Collection.hpp>
+#include <QBComponentAPI/item/typed/ItemTyped.hpp>
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
 
@@ -153,7 +155,8 @@ void step(int n, std::string_view face, std::string_view what) {
   std::cout << "\n[" << n << "] " << what << "  (" << face << " face)\n";
 }
 
-// initialise, get_config, update with an avatar, get, get_faq, delete_account, each shown as it goes.
+// initialise, get_config, update with an avatar, get, get_faq, the collection through the pager,
+// delete_account, each shown as it goes.
 void demo(qb::host::Client& client) {
   step(1, "Dictionary", "initialise: a guest account and its token");
   auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, qb::rawValue(qb::LanguageCode::en),
@@ -194,7 +197,16 @@ void demo(qb::host::Client& client) {
   const auto faqs = faq->faqs();
   for (const auto& entry : *faqs) std::cout << "  - " << std::string_view(entry->title()->as_string()) << "\n";
 
-  step(6, "Typed", "delete_account");
+  step(6, "Typed", "the whole collection through the pager, 5 items a page");
+  qb::host::Collection items = client.collection({.pageSize = 5});
+  std::size_t count = 0;
+  for (const qb::SimpleItemModel& item : items) {
+    if (count++ < 3) std::cout << "  - " << item.itemId << " " << item.name << "\n";
+  }
+  std::cout << "  " << count << " items in " << items.pagesFetched() << " pages; resume after "
+            << items.cursor().value_or(0) << "\n";
+
+  step(7, "Typed", "delete_account");
   client.send(qb::UserDeleteAccountRequest{});
   std::cout << "  deleted\n";
   try {
@@ -222,7 +234,16 @@ int main(int argc, char** argv) {
                   "e.g. a separately started qbapi-mock; implied for the in-process mock");
   };
 
-  app.add_subcommand("endpoints", "list every endpoint with its verb, faces and flags");
+  bool markdown = false;
+  std::int64_t pageSize = 50;
+  std::optional<std::int64_t> after;
+  CLI::App* collectionCmd =
+      app.add_subcommand("collection", "print the signed-in user's whole collection, one item per line, page by page");
+  collectionCmd->add_option("--page-size", pageSize, "items per call")->check(CLI::Range(1, 100000));
+  collectionCmd->add_option("--after", after, "start after this item id (a saved cursor)");
+  addConnection(collectionCmd);
+  app.add_subcommand("endpoints", "list every endpoint with its verb, faces and flags")
+      ->add_flag("--markdown", markdown, "as the README's table: path, verb, session and each face's classes");
   CLI::App* describeCmd =
       app.add_subcommand("describe", "list an endpoint's parameters, their types and faces, and its reply keys");
   std::string describeName;
@@ -247,7 +268,11 @@ int main(int argc, char** argv) {
   }
 
   if (app.got_subcommand("endpoints")) {
-    listEndpoints();
+    if (markdown) {
+      std::fputs(qb::cli::endpointTable().c_str(), stdout);
+    } else {
+      listEndpoints();
+    }
     return kOk;
   }
   if (app.got_subcommand("describe")) {
@@ -258,6 +283,23 @@ int main(int argc, char** argv) {
     }
     describeEndpoint(*entry);
     return kOk;
+  }
+  if (app.got_subcommand("collection")) {
+    return withClient(baseUrl, token, envelope, insecureLoopback, [&](qb::host::Client& client) {
+      if (baseUrl.empty() && !token) {
+        auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
+        client.send(*init);
+        client.setAccessToken(std::string(init->accessToken()->as_string()));
+      }
+      qb::host::Collection items = client.collection({.pageSize = pageSize, .after = after});
+      try {
+        for (const qb::SimpleItemModel& item : items) std::cout << qb::JSONEncoder().encode(item) << "\n";
+      } catch (...) {
+        // What was printed stays valid: say where to resume before reporting the failure.
+        if (items.cursor()) std::cerr << "stopped; resume with --after " << *items.cursor() << "\n";
+        throw;
+      }
+    });
   }
   if (app.got_subcommand("demo")) {
     // The demo renames the account it signs into and then deletes it: pointed at a real service with a

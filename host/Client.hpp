@@ -79,6 +79,9 @@ struct ClientOptions {
   std::optional<std::string> envelopeKey = std::nullopt;  // when replies wrap the result keys: {"data": {...}}
 };
 
+class Collection;
+struct CollectionOptions;
+
 // Thread-safe: one client may serve every thread of an app; the transport shares connections.
 class Client {
  public:
@@ -89,6 +92,9 @@ class Client {
   // InvalidHeaderError, and keeps the token it had, when the token holds CR, LF or NUL.
   void setAccessToken(std::optional<std::string> token);
   bool hasAccessToken() const;
+
+  // The signed-in user's whole collection, page by page as it is iterated (host/Collection.hpp).
+  Collection collection(CollectionOptions options);
 
   // Sends a Dictionary-face message and fills it with parseResponse. Returns the message.
   QBMessageBase& send(QBMessageBase& message);

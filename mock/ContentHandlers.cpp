@@ -13,9 +13,9 @@ namespace {
 
 constexpr const char* kImages = "https://cdn.example.invalid/";
 
-JsonMap staticUrl(const std::string& page) {
-  return {{"light_url", "https://pages.example.invalid/" + page + "?mode=light"},
-          {"dark_url", "https://pages.example.invalid/" + page + "?mode=dark"}};
+JsonMap staticUrl(std::string_view page) {
+  const std::string base = "https://pages.example.invalid/" + std::string(page);
+  return {{"light_url", base + "?mode=light"}, {"dark_url", base + "?mode=dark"}};
 }
 
 JsonMap title(const std::string& name) {
@@ -147,7 +147,7 @@ JsonMap disease(const Species& s) {
           {"matched_similar_images", JsonList{image("diseases/root-rot.jpg", 0.88)}}};
 }
 
-JsonMap contentName(std::size_t index) {
+JsonMap contentNameAt(std::size_t index) {
   const Species& s = kSpecies[index];
   JsonList children;
   for (const Species& other : kSpecies) {
@@ -175,11 +175,11 @@ JsonMap contentName(std::size_t index) {
   return name;
 }
 
-std::size_t speciesIndex(const std::string& uid) {
+std::size_t speciesIndex(std::string_view uid) {
   for (std::size_t i = 0; i < std::size(kSpecies); ++i) {
     if (uid == kSpecies[i].uid) return i;
   }
-  throw Failure{404, "not_found", "no content name " + uid};
+  throw Failure{404, "not_found", "no content name " + std::string(uid)};
 }
 
 // A list parameter: the Dictionary face sends it as JSON text, the Typed face as an array; both arrive
@@ -209,6 +209,16 @@ JsonList simpleItems() {
 
 }  // namespace
 
+std::vector<std::string> contentUids() {
+  std::vector<std::string> out;
+  for (const Species& s : kSpecies) out.emplace_back(s.uid);
+  return out;
+}
+
+JsonMap contentName(std::string_view uid) { return contentNameAt(speciesIndex(uid)); }
+
+JsonMap contentStaticUrl(std::string_view page) { return staticUrl(page); }
+
 HandlerTable contentHandlers() {
   // What users sent through user_feedback, kept for the life of the service.
   auto feedback = std::make_shared<std::vector<JsonMap>>();
@@ -221,12 +231,12 @@ HandlerTable contentHandlers() {
        }},
       {cms::kGetCmsName.path,
        [](Call& call) {
-         return JsonMap{{"cms_name", contentName(speciesIndex(text(call.params, "cms_name_uid")))}};
+         return JsonMap{{"cms_name", contentNameAt(speciesIndex(text(call.params, "cms_name_uid")))}};
        }},
       {cms::kGetCmsNameList.path,
        [](Call& call) {
          JsonList names;
-         for (const auto& uid : uids(call, "cms_name_uids")) names.push_back(contentName(speciesIndex(uid)));
+         for (const auto& uid : uids(call, "cms_name_uids")) names.push_back(contentNameAt(speciesIndex(uid)));
          return JsonMap{{"cms_name_list", std::move(names)}};
        }},
       {cms::kGetCmsNameLists.path,

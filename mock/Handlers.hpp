@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qb::mock {
 
@@ -44,7 +45,30 @@ inline std::string text(const JsonMap& params, std::string_view key) {
 using Handler = std::function<JsonMap(Call&)>;
 using HandlerTable = std::map<std::string_view, Handler>;
 
+// A read-only route for tests and tools, GET /_mock/<pattern>: the pattern's captures in, the answer
+// out (throw Failure for a 404). Runs under the service's lock, like the handlers.
+using MockRoute = std::function<JsonMap(const std::vector<std::string>& captures)>;
+using MockRoutes = std::map<std::string, MockRoute>;  // regular expression after "/_mock/" -> route
+
+// What a domain adds to the service beside its handlers: read-only routes for tests and tools, and what
+// to forget when an account is deleted (run under the service's lock, with the deleted user's id).
+struct Extras {
+  MockRoutes routes;
+  std::vector<std::function<void(std::int64_t userId)>> onAccountDeleted;
+};
+
 // The content catalogue and share endpoints, over a seeded, deterministic catalogue.
 HandlerTable contentHandlers();
+// The item collection: one seeded collection per account, edited by the item endpoints.
+HandlerTable itemHandlers(Extras& extras);
+// Customer support: FAQ from the seeded catalogue, keyword auto replies, tickets kept per account.
+HandlerTable supportHandlers(Extras& extras);
+
+// The seeded content catalogue, for the domains that embed its records.
+std::vector<std::string> contentUids();
+// The full content name record of a seeded uid; Failure 404 for any other.
+JsonMap contentName(std::string_view uid);
+// A pair of light and dark page addresses for a page name.
+JsonMap contentStaticUrl(std::string_view page);
 
 }  // namespace qb::mock

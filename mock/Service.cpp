@@ -6,6 +6,7 @@
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
 #include <algorithm>
+#include <charconv>
 #include <chrono>
 #include <functional>
 #include <map>
@@ -24,6 +25,13 @@ int hexDigit(char c) {
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   return -1;
+}
+
+// A user id from a route's path; 0 (no user has it) when the digits overflow.
+std::int64_t pathId(const std::string& digits) {
+  std::int64_t id = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), id);
+  return error == std::errc{} && end == digits.data() + digits.size() ? id : 0;
 }
 
 std::string urlDecode(std::string_view text) {
@@ -113,6 +121,9 @@ struct Service::State {
   std::map<std::string, std::string> passwords;    // login key -> password
   std::map<std::string, std::string> verifyCodes;  // e-mail -> code
   std::map<std::int64_t, Upload> avatars;          // user id -> uploaded avatar
+  std::map<std::int64_t, JsonMap> vipInfos;        // user id -> subscription summary, once changed
+  std::map<std::int64_t, JsonList> trialReminders;  // user id -> reminders asked for
+  Extras extras;                                    // the domains' /_mock/ routes and deletion hooks
   std::int64_t nextUserId = 9007199254740993;      // above 2^53, as real ids may be
   std::mt19937_64 random{20261122};
 
@@ -182,6 +193,17 @@ struct Service::State {
 
   JsonMap& userOf(const Call& call) { return users.at(*call.userId); }
 
+  // The account's subscription summary: a free account until a test sets it (POST /_mock/vip/<id>).
+  JsonMap& vipInfo(std::int64_t id) {
+    auto [found, fresh] = vipInfos.try_emplace(id);
+    if (fresh) {
+      found->second = JsonMap{{"user_id", id},         {"is_vip", false},        {"is_trial", false},
+                              {"is_auto_renew", false}, {"is_vip_in_history", false}, {"is_paid_in_history", false},
+                              {"vip_level", 0}};
+    }
+    return found->second;
+  }
+
   // The hand-written part of the service: what each endpoint does, by path. Which endpoints exist, their
   // verbs, whether they need a session and which parameters they insist on come from the catalogues.
   HandlerTable accountHandlers() {
@@ -245,6 +267,9 @@ struct Service::State {
            users.erase(id);
            additional.erase(id);
            avatars.erase(id);
+           vipInfos.erase(id);
+           trialReminders.erase(id);
+           for (const auto& forget : extras.onAccountDeleted) forget(id);
            std::erase_if(tokens, [id](const auto& t) { return t.second == id; });
            std::erase_if(logins, [id](const auto& l) { return l.second == id; });
            return JsonMap{};
@@ -290,6 +315,12 @@ struct Service::State {
         {user::kGetConfig.path,
          [](Call&) {
            return JsonMap{{"config", clientConfig()}, {"other_configs", JsonMap{{"feature_x", true}}}};
+         }},
+        {vip::kVipCard.path, [this](Call& call) { return JsonMap{{"vip_info", vipInfo(*call.userId)}}; }},
+        {vip::kRemindUserToAttentionTrial.path,
+         [this](Call& call) {
+           trialReminders[*call.userId].push_back(call.params);
+           return JsonMap{};
          }},
         {user::kGetFaq.path,
          [](Call&) {
@@ -340,16 +371,28 @@ struct Service::State {
     return call;
   }
 
-  // One endpoint of a catalogue: the route, with its hand-written handler.
+  // One endpoint of a catalogue: the route, with its hand-written handler. A path with a further
+  // Dictionary-face message has one route, which insists only on what every face of it always sends.
   template <class A>
   void installRoute(HandlerTable& all) {
+    if constexpr (repeatsPath<A>(AllEndpoints{})) return;
     const Endpoint& endpoint = A::endpoint;
     const auto found = all.find(endpoint.path);
     if (found == all.end()) throw std::logic_error("qbapi-mock has no handler for " + std::string(endpoint.path));
     Handler handler = std::move(found->second);
     all.erase(found);
-    auto handle = [this, handler = std::move(handler), required = requiredParameters<A>()](const httplib::Request& req,
-                                                                                           httplib::Response& res) {
+    std::vector<std::string_view> required = requiredParameters<A>();
+    forEachType(AllEndpoints{}, [&]<class B>() {
+      if constexpr (!std::is_same_v<A, B>) {
+        if (B::endpoint.path != endpoint.path) return;
+        const auto other = requiredParameters<B>();
+        std::erase_if(required, [&](std::string_view key) {
+          return std::find(other.begin(), other.end(), key) == other.end();
+        });
+      }
+    });
+    auto handle = [this, handler = std::move(handler), required = std::move(required)](const httplib::Request& req,
+                                                                                        httplib::Response& res) {
       ++requests;
       try {
         Call call = parse(req);
@@ -384,6 +427,8 @@ struct Service::State {
   void install() {
     HandlerTable all = accountHandlers();
     all.merge(contentHandlers());
+    all.merge(itemHandlers(extras));
+    all.merge(supportHandlers(extras));
     forEachType(AllEndpoints{}, [&]<class A>() { installRoute<A>(all); });
     if (!all.empty())
       throw std::logic_error("qbapi-mock has a handler for " + std::string(all.begin()->first) +
@@ -397,9 +442,43 @@ struct Service::State {
     });
     server.Get(R"(/_mock/avatars/(\d+))", [this](const httplib::Request& req, httplib::Response& res) {
       std::lock_guard lock(mutex);
-      const auto avatar = avatars.find(std::stoll(req.matches[1].str()));
+      const auto avatar = avatars.find(pathId(req.matches[1].str()));
       if (avatar == avatars.end()) return answer(res, 404, JsonMap{{"error", "no_avatar"}, {"message", "no avatar"}});
       res.set_content(avatar->second.data, avatar->second.contentType);
+    });
+    for (auto& [pattern, route] : extras.routes) {
+      server.Get("/_mock/" + pattern,
+                 [this, route = std::move(route)](const httplib::Request& req, httplib::Response& res) {
+                   std::lock_guard lock(mutex);
+                   std::vector<std::string> captures;
+                   for (std::size_t i = 1; i < req.matches.size(); ++i) captures.push_back(req.matches[i].str());
+                   try {
+                     answer(res, 200, route(captures));
+                   } catch (const Failure& f) {
+                     answer(res, f.status, JsonMap{{"error", f.code}, {"message", f.message}});
+                   }
+                 });
+    }
+    // The subscription summary and the trial reminders of an account; POST merges the body's members
+    // into the summary (`{"is_vip": true, "vip_level": 3}`), for tests of a subscribed account.
+    server.Get(R"(/_mock/vip/(\d+))", [this](const httplib::Request& req, httplib::Response& res) {
+      std::lock_guard lock(mutex);
+      const std::int64_t id = pathId(req.matches[1].str());
+      if (!users.contains(id)) return answer(res, 404, JsonMap{{"error", "no_user"}, {"message", "no such user"}});
+      answer(res, 200, JsonMap{{"vip_info", vipInfo(id)}, {"trial_reminders", trialReminders[id]}});
+    });
+    server.Post(R"(/_mock/vip/(\d+))", [this](const httplib::Request& req, httplib::Response& res) {
+      std::lock_guard lock(mutex);
+      const std::int64_t id = pathId(req.matches[1].str());
+      if (!users.contains(id)) return answer(res, 404, JsonMap{{"error", "no_user"}, {"message", "no such user"}});
+      try {
+        JsonMap& info = vipInfo(id);
+        for (const auto& member : parseJsonMap(req.body)) info[member.key()] = member.value();
+        users[id]["vip"] = info["is_vip"];
+        answer(res, 200, JsonMap{{"vip_info", info}});
+      } catch (const std::exception&) {
+        answer(res, 400, JsonMap{{"error", "bad_request"}, {"message", "the body must be a JSON object"}});
+      }
     });
     server.set_error_handler([](const httplib::Request&, httplib::Response& res) {
       if (res.body.empty()) {
