@@ -6,7 +6,10 @@
 
 #include "fuzz/Registry.hpp"
 #include "cms/Fixtures.hpp"
+#include "item/Fixtures.hpp"
+#include "support/Fixtures.hpp"
 #include "user/Fixtures.hpp"
+#include "vip/Fixtures.hpp"
 
 int main(int argc, char** argv) {
   if (argc != 2) {
@@ -44,7 +47,20 @@ int main(int argc, char** argv) {
                                  R"({"cms_name": )" + cms::kCmsName + "}",
                                  R"({"cms_name_list": [)" + cms::kCmsName + "]}",
                                  R"({"articles": [)" + cms::kCmsArticle + "]}",
-                                 R"({"share_urls": [)" + cms::kShareUrl + "]}"};
+                                 R"({"share_urls": [)" + cms::kShareUrl + "]}",
+                                 item::kItemImage,
+                                 item::kSimpleItem,
+                                 item::kItemDetail,
+                                 R"({"item": )" + item::kItemDetail + "}",
+                                 R"({"items": [)" + item::kSimpleItem + "]}",
+                                 R"({"notes_with_signed_url": "n", "has_buy_cloud_storage": true})",
+                                 support::kAutoReplyArticle,
+                                 support::kCmsFaqArticle,
+                                 support::kCmsFaqCategory,
+                                 support::kAutoReplyReply,
+                                 support::kFaqReply,
+                                 vip::kVerifyResult,
+                                 vip::kRestoreResult};
   const std::filesystem::path root(argv[1]);
   for (const char* target : {"fuzz_dict", "fuzz_typed"}) {
     std::filesystem::create_directories(root / target);
