@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/JSONDecoder.hpp>
 #include <QBComponentAPI/frame/JSONEncoder.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
 #include <QBComponentAPI/frame/Protocols.hpp>
 #include <cstddef>
 #include <functional>
@@ -26,6 +28,38 @@ template <APIEncodableRequest R>
 Described describe(const R& request) {
   return {request.api(), request.parseParamater(JSONEncoder()), request.mimeBodies().size()};
 }
+
+// One record of a domain's table tests: a complete reply, its required keys in declared order, and checks
+// typed by the record.
+struct RecordRow {
+  const char* name;
+  std::string full;
+  std::vector<const char*> required;
+  // Decodes with both decoders, then checks that encoding and decoding again gives an equal record, with
+  // both codecs.
+  std::function<void(std::string_view)> roundTrip;
+  // Decodes and encodes again.
+  std::function<std::string(std::string_view)> reencoded;
+};
+
+template <class T>
+RecordRow recordRow(const char* name, std::string full, std::vector<const char*> required) {
+  return {name, std::move(full), std::move(required),
+          [](std::string_view json) {
+            const T first = JSONDecoder().decode<T>(json);
+            EXPECT_EQ(JsonValueDecoder().decode<T>(parseJson(json)), first);
+            const std::string text = JSONEncoder().encode(first);
+            EXPECT_EQ(JSONDecoder().decode<T>(text), first) << text;
+            EXPECT_EQ(JsonValueDecoder().decode<T>(JsonValueEncoder().encode(first)), first);
+          },
+          [](std::string_view json) { return JSONEncoder().encode(JSONDecoder().decode<T>(json)); }};
+}
+
+// {"key": value} and [element], for building replies from the fixtures.
+inline std::string jsonObject(const char* key, const std::string& value) {
+  return "{\"" + std::string(key) + "\": " + value + "}";
+}
+inline std::string jsonList(const std::string& element) { return "[" + element + "]"; }
 
 // The kind of the DecodingError that `decode` raises, with its coding path in `path`; dataCorrupted and
 // the path "<decoded>" when it raises none.

@@ -2,8 +2,6 @@
 // members, enumeration failures, coding paths of nested failures and the keys only this face reads.
 #include <gtest/gtest.h>
 
-#include "typed_helpers.hpp"
-
 #include <QBComponentAPI/cms/enums/CmsEnums.hpp>
 #include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
@@ -13,89 +11,69 @@
 #include <optional>
 
 #include "cms/Fixtures.hpp"
+#include "typed_helpers.hpp"
 
 namespace qb {
 namespace {
 
 using namespace fixtures::cms;
 
-struct RecordRow {
-  const char* name;
-  std::string full;
-  std::vector<const char*> required;  // in declared order
-  // Decodes, then checks that encoding and decoding again gives an equal record.
-  std::function<void(std::string_view)> roundTrip;
-  // Decodes and encodes again.
-  std::function<std::string(std::string_view)> reencoded;
-};
-
-template <class T>
-RecordRow row(const char* name, std::string full, std::vector<const char*> required) {
-  return {name, std::move(full), std::move(required),
-          [](std::string_view json) {
-            const T first = JSONDecoder().decode<T>(json);
-            const std::string text = JSONEncoder().encode(first);
-            EXPECT_EQ(JSONDecoder().decode<T>(text), first) << text;
-            EXPECT_EQ(JsonValueDecoder().decode<T>(JsonValueEncoder().encode(first)), first);
-          },
-          [](std::string_view json) { return JSONEncoder().encode(JSONDecoder().decode<T>(json)); }};
-}
-
-std::string object(const char* key, const std::string& value) {
-  return "{\"" + std::string(key) + "\": " + value + "}";
-}
-std::string list(const std::string& element) { return "[" + element + "]"; }
-
 const std::vector<RecordRow>& rows() {
   static const std::vector<RecordRow> table{
-      row<CmsNameModel>("CmsName", kCmsName, {"uid", "name", "taxonomies", "matched_similar_images"}),
-      row<CmsMainModel>("CmsMain", kCmsMain, {"type", "uid", "name", "main_image"}),
-      row<CmsNameListModel>("CmsNameList", kCmsNameList, {"uid"}),
-      row<SimpleCmsNameModel>("SimpleCmsName", kSimpleCmsName, {"uid"}),
-      row<TaxonomyNameModel>("TaxonomyName", kTaxonomyName,
-                             {"uid", "type", "taxonomy_type_name", "preferred_name", "latin_name"}),
-      row<CmsTaxonomyNameModel>("CmsTaxonomyName", kCmsTaxonomyName,
-                                {"type", "taxonomy_type", "taxonomy_type_name", "preferred_name", "latin_name"}),
-      row<CmsTitleModel>("CmsTitle", kCmsTitle, {}),
-      row<CmsImageModel>("CmsImage", kCmsImage, {"type", "image_url"}),
-      row<CopyrightModel>("Copyright", kCopyright, {}),
-      row<CmsStaticUrlModel>("CmsStaticUrl", kCmsStaticUrl, {"light_url", "dark_url"}),
-      row<CmsLayoutModel>("CmsLayout", kCmsLayout, {"name", "type", "type_set"}),
-      row<CmsContentModel>("CmsContent", kCmsContent, {"layouts", "tags"}),
-      row<CmsTagModel>("CmsTag", kCmsTag, {"type", "tag_name", "tag_values"}),
-      row<CmsTagValueModel>("CmsTagValue", kCmsTagValue, {"type"}),
-      row<CmsTagStringModel>("CmsTagString", kCmsTagString, {"type", "value"}),
-      row<CmsTagColorsModel>("CmsTagColors", kCmsTagColors, {"type", "color"}),
-      row<CmsArticleModel>("CmsArticle", kCmsArticle, {"url", "tags"}),
-      row<CmsVideoModel>("CmsVideo", kCmsVideo, {"video_classification", "title", "image_url", "video_url"}),
-      row<CmsDiseaseModel>("CmsDisease", kCmsDisease, {"article"}),
-      row<SimpleCmsDiseaseModel>("SimpleCmsDisease", kSimpleCmsDisease, {"uid"}),
-      row<DiagnoseDetectModel>("DiagnoseDetect", kDiagnoseDetect, {"regions"}),
-      row<DiagnoseDetectRegionModel>("DiagnoseDetectRegion", kDiagnoseDetectRegion,
-                                     {"region", "detection_score", "strategy_score"}),
-      row<SimpleCmsItemModel>("SimpleCmsItem", kSimpleCmsItem, {"uid", "main_image_url", "common_name", "latin_name"}),
-      row<SimpleCmsItemFieldModel>("SimpleCmsItemField", kSimpleCmsItemField, {"key", "value"}),
-      row<BookModel>("Book", kBook,
-                     {"uid", "title", "sub_title", "summary", "cover_image_url", "edition", "ptbn", "series_name",
-                      "series_description", "price_tiers", "url"}),
-      row<PriceTierModel>("PriceTier", kPriceTier, {"type", "vip_only", "free", "sku"}),
-      row<ShareUrlModel>("ShareUrl", kShareUrl, {"light_url", "dark_url"}),
-      row<CmsGetCmsArticlesResponse>("GetCmsArticlesResponse", object("articles", list(kCmsArticle)), {"articles"}),
-      row<CmsGetCmsNameResponse>("GetCmsNameResponse", object("cms_name", kCmsName), {"cms_name"}),
-      row<CmsGetCmsNameListResponse>("GetCmsNameListResponse", object("cms_name_list", list(kCmsName)),
-                                     {"cms_name_list"}),
-      row<CmsGetCmsNameListsResponse>("GetCmsNameListsResponse", object("cms_name_lists", list(kCmsNameList)),
-                                      {"cms_name_lists"}),
-      row<CmsGetStaticContentResponse>("GetStaticContentResponse", R"({"content": "<h1>Terms</h1>"})", {"content"}),
-      row<CmsGetStaticUrlResponse>("GetStaticUrlResponse", object("cms_static_url", kCmsStaticUrl), {"cms_static_url"}),
-      row<CmsUserFeedbackResponse>("UserFeedbackResponse", "{}", {}),
-      row<CmsGetSimpleCmsNameListResponse>("GetSimpleCmsNameListResponse",
-                                           object("cms_name_list", list(kSimpleCmsName)), {"cms_name_list"}),
-      row<CmsGetNameListResponse>("GetNameListResponse", object("items", list(kSimpleCmsItem)), {"items"}),
-      row<CmsListSimpleItemsResponse>("ListSimpleItemsResponse", object("items", list(kSimpleCmsItem)), {"items"}),
-      row<CmsGetBookListResponse>("GetBookListResponse", object("books", list(kBook)), {"books"}),
-      row<ShareGetCmsShareUrlsResponse>("GetCmsShareUrlsResponse", object("share_urls", list(kShareUrl)),
-                                        {"share_urls"}),
+      recordRow<CmsNameModel>("CmsName", kCmsName, {"uid", "name", "taxonomies", "matched_similar_images"}),
+      recordRow<CmsMainModel>("CmsMain", kCmsMain, {"type", "uid", "name", "main_image"}),
+      recordRow<CmsNameListModel>("CmsNameList", kCmsNameList, {"uid"}),
+      recordRow<SimpleCmsNameModel>("SimpleCmsName", kSimpleCmsName, {"uid"}),
+      recordRow<TaxonomyNameModel>("TaxonomyName", kTaxonomyName,
+                                   {"uid", "type", "taxonomy_type_name", "preferred_name", "latin_name"}),
+      recordRow<CmsTaxonomyNameModel>("CmsTaxonomyName", kCmsTaxonomyName,
+                                      {"type", "taxonomy_type", "taxonomy_type_name", "preferred_name", "latin_name"}),
+      recordRow<CmsTitleModel>("CmsTitle", kCmsTitle, {}),
+      recordRow<CmsImageModel>("CmsImage", kCmsImage, {"type", "image_url"}),
+      recordRow<CopyrightModel>("Copyright", kCopyright, {}),
+      recordRow<CmsStaticUrlModel>("CmsStaticUrl", kCmsStaticUrl, {"light_url", "dark_url"}),
+      recordRow<CmsLayoutModel>("CmsLayout", kCmsLayout, {"name", "type", "type_set"}),
+      recordRow<CmsContentModel>("CmsContent", kCmsContent, {"layouts", "tags"}),
+      recordRow<CmsTagModel>("CmsTag", kCmsTag, {"type", "tag_name", "tag_values"}),
+      recordRow<CmsTagValueModel>("CmsTagValue", kCmsTagValue, {"type"}),
+      recordRow<CmsTagStringModel>("CmsTagString", kCmsTagString, {"type", "value"}),
+      recordRow<CmsTagColorsModel>("CmsTagColors", kCmsTagColors, {"type", "color"}),
+      recordRow<CmsArticleModel>("CmsArticle", kCmsArticle, {"url", "tags"}),
+      recordRow<CmsVideoModel>("CmsVideo", kCmsVideo, {"video_classification", "title", "image_url", "video_url"}),
+      recordRow<CmsDiseaseModel>("CmsDisease", kCmsDisease, {"article"}),
+      recordRow<SimpleCmsDiseaseModel>("SimpleCmsDisease", kSimpleCmsDisease, {"uid"}),
+      recordRow<DiagnoseDetectModel>("DiagnoseDetect", kDiagnoseDetect, {"regions"}),
+      recordRow<DiagnoseDetectRegionModel>("DiagnoseDetectRegion", kDiagnoseDetectRegion,
+                                           {"region", "detection_score", "strategy_score"}),
+      recordRow<SimpleCmsItemModel>("SimpleCmsItem", kSimpleCmsItem,
+                                    {"uid", "main_image_url", "common_name", "latin_name"}),
+      recordRow<SimpleCmsItemFieldModel>("SimpleCmsItemField", kSimpleCmsItemField, {"key", "value"}),
+      recordRow<BookModel>("Book", kBook,
+                           {"uid", "title", "sub_title", "summary", "cover_image_url", "edition", "ptbn", "series_name",
+                            "series_description", "price_tiers", "url"}),
+      recordRow<PriceTierModel>("PriceTier", kPriceTier, {"type", "vip_only", "free", "sku"}),
+      recordRow<ShareUrlModel>("ShareUrl", kShareUrl, {"light_url", "dark_url"}),
+      recordRow<CmsGetCmsArticlesResponse>("GetCmsArticlesResponse", jsonObject("articles", jsonList(kCmsArticle)),
+                                           {"articles"}),
+      recordRow<CmsGetCmsNameResponse>("GetCmsNameResponse", jsonObject("cms_name", kCmsName), {"cms_name"}),
+      recordRow<CmsGetCmsNameListResponse>("GetCmsNameListResponse", jsonObject("cms_name_list", jsonList(kCmsName)),
+                                           {"cms_name_list"}),
+      recordRow<CmsGetCmsNameListsResponse>("GetCmsNameListsResponse",
+                                            jsonObject("cms_name_lists", jsonList(kCmsNameList)), {"cms_name_lists"}),
+      recordRow<CmsGetStaticContentResponse>("GetStaticContentResponse", R"({"content": "<h1>Terms</h1>"})",
+                                             {"content"}),
+      recordRow<CmsGetStaticUrlResponse>("GetStaticUrlResponse", jsonObject("cms_static_url", kCmsStaticUrl),
+                                         {"cms_static_url"}),
+      recordRow<CmsUserFeedbackResponse>("UserFeedbackResponse", "{}", {}),
+      recordRow<CmsGetSimpleCmsNameListResponse>(
+          "GetSimpleCmsNameListResponse", jsonObject("cms_name_list", jsonList(kSimpleCmsName)), {"cms_name_list"}),
+      recordRow<CmsGetNameListResponse>("GetNameListResponse", jsonObject("items", jsonList(kSimpleCmsItem)),
+                                        {"items"}),
+      recordRow<CmsListSimpleItemsResponse>("ListSimpleItemsResponse", jsonObject("items", jsonList(kSimpleCmsItem)),
+                                            {"items"}),
+      recordRow<CmsGetBookListResponse>("GetBookListResponse", jsonObject("books", jsonList(kBook)), {"books"}),
+      recordRow<ShareGetCmsShareUrlsResponse>("GetCmsShareUrlsResponse", jsonObject("share_urls", jsonList(kShareUrl)),
+                                              {"share_urls"}),
   };
   return table;
 }
@@ -266,11 +244,12 @@ TEST(CmsTypedRecords, UnknownEnumerationNumbersAndDeepFailuresAreReportedWithThe
                             "Cannot initialize CmsTagValueType from invalid Int value 9"),
       failing<CmsNameModel>(edited(kCmsName, "/disease/diagnose_detect/regions/0", "strategy_score", "high"),
                             Kind::typeMismatch, "disease.diagnose_detect.regions[0].strategy_score"),
-      failing<CmsGetCmsNameListResponse>(
-          edited(object("cms_name_list", list(kCmsName)), "/cms_name_list/0/main_image", "image_url", std::nullopt),
-          Kind::keyNotFound, "cms_name_list[0].main_image.image_url"),
-      failing<CmsGetBookListResponse>(edited(object("books", list(kBook)), "/books/0/price_tiers/0", "sku", nullptr),
-                                      Kind::valueNotFound, "books[0].price_tiers[0].sku"),
+      failing<CmsGetCmsNameListResponse>(edited(jsonObject("cms_name_list", jsonList(kCmsName)),
+                                                "/cms_name_list/0/main_image", "image_url", std::nullopt),
+                                         Kind::keyNotFound, "cms_name_list[0].main_image.image_url"),
+      failing<CmsGetBookListResponse>(
+          edited(jsonObject("books", jsonList(kBook)), "/books/0/price_tiers/0", "sku", nullptr), Kind::valueNotFound,
+          "books[0].price_tiers[0].sku"),
       failing<ShareGetCmsShareUrlsResponse>(R"({"share_urls": [{"light_url": "l"}]})", Kind::keyNotFound,
                                             "share_urls[0].dark_url"),
   };

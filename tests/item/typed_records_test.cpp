@@ -14,51 +14,26 @@ namespace {
 
 using namespace fixtures::item;
 
-struct RecordRow {
-  const char* name;
-  std::string full;
-  std::vector<const char*> required;  // in declared order
-  // Decodes, then checks that encoding and decoding again gives an equal record, with both codecs.
-  std::function<void(std::string_view)> roundTrip;
-  // Decodes and encodes again.
-  std::function<std::string(std::string_view)> reencoded;
-};
-
-template <class T>
-RecordRow row(const char* name, std::string full, std::vector<const char*> required) {
-  return {name, std::move(full), std::move(required),
-          [](std::string_view json) {
-            const T first = JSONDecoder().decode<T>(json);
-            const std::string text = JSONEncoder().encode(first);
-            EXPECT_EQ(JSONDecoder().decode<T>(text), first) << text;
-            EXPECT_EQ(JsonValueDecoder().decode<T>(JsonValueEncoder().encode(first)), first);
-          },
-          [](std::string_view json) { return JSONEncoder().encode(JSONDecoder().decode<T>(json)); }};
-}
-
-std::string object(const char* key, const std::string& value) {
-  return "{\"" + std::string(key) + "\": " + value + "}";
-}
-
 const std::vector<const char*> kItemRequired{"item_id", "item_image", "shoot_at", "name"};
 const std::vector<const char*> kDetailRequired{"item_id", "item_image", "shoot_at",
                                                "name",    "cms_names",  "probabilities"};
 
 const std::vector<RecordRow>& rows() {
   static const std::vector<RecordRow> table{
-      row<ItemImageModel>("ItemImage", kItemImage, {}),
-      row<SimpleItemModel>("SimpleItem", kSimpleItem, kItemRequired),
-      row<ItemDetailModel>("ItemDetail", kItemDetail, kDetailRequired),
-      row<ItemGetItemDetailResponse>("GetItemDetailResponse", object("item", kItemDetail), {"item"}),
-      row<ItemListMyCollectionsResponse>("ListMyCollectionsResponse", object("items", "[" + kSimpleItem + "]"),
-                                         {"items"}),
-      row<ItemListMyCollectionsPageResponse>("ListMyCollectionsPageResponse",
-                                             object("items", "[" + kSimpleItem + ", " + kSimpleItem + "]"), {"items"}),
-      row<ItemUpdateItemCustomNoteResponse>("UpdateItemCustomNoteResponse",
-                                            R"({"notes_with_signed_url": "See https://s.example/1?sig=x"})",
-                                            {"notes_with_signed_url"}),
-      row<ItemCheckUserBuyCloudStorageResponse>("CheckUserBuyCloudStorageResponse",
-                                                R"({"has_buy_cloud_storage": false})", {"has_buy_cloud_storage"}),
+      recordRow<ItemImageModel>("ItemImage", kItemImage, {}),
+      recordRow<SimpleItemModel>("SimpleItem", kSimpleItem, kItemRequired),
+      recordRow<ItemDetailModel>("ItemDetail", kItemDetail, kDetailRequired),
+      recordRow<ItemGetItemDetailResponse>("GetItemDetailResponse", jsonObject("item", kItemDetail), {"item"}),
+      recordRow<ItemListMyCollectionsResponse>("ListMyCollectionsResponse",
+                                               jsonObject("items", "[" + kSimpleItem + "]"), {"items"}),
+      recordRow<ItemListMyCollectionsPageResponse>("ListMyCollectionsPageResponse",
+                                                   jsonObject("items", "[" + kSimpleItem + ", " + kSimpleItem + "]"),
+                                                   {"items"}),
+      recordRow<ItemUpdateItemCustomNoteResponse>("UpdateItemCustomNoteResponse",
+                                                  R"({"notes_with_signed_url": "See https://s.example/1?sig=x"})",
+                                                  {"notes_with_signed_url"}),
+      recordRow<ItemCheckUserBuyCloudStorageResponse>("CheckUserBuyCloudStorageResponse",
+                                                      R"({"has_buy_cloud_storage": false})", {"has_buy_cloud_storage"}),
   };
   return table;
 }
@@ -160,7 +135,7 @@ TEST(ItemTypedRecords, WhatThisFaceReadsDifferently) {
   JsonMap map = parseJsonMap(kItemDetail);
   map["cms_names"] = JsonList{};
   EXPECT_TRUE(JSONDecoder().decode<ItemDetailModel>(toJson(map)).cmsNames.empty());
-  JsonValue reply = parseJson(object("item", kItemDetail));
+  JsonValue reply = parseJson(jsonObject("item", kItemDetail));
   reply.at_pointer("/item/cms_names/0").as_object().erase("uid");
   std::string path;
   EXPECT_EQ(decodingFailure([&] { ItemGetItemDetailResponse::init(toJson(reply), JSONDecoder()); }, &path),

@@ -16,36 +16,19 @@ namespace {
 
 using namespace fixtures::support;
 
-struct RecordRow {
-  const char* name;
-  std::string full;
-  std::vector<const char*> required;  // in declared order
-  // Decodes with both decoders, then checks that encoding and decoding again gives an equal record.
-  std::function<void(std::string_view)> roundTrip;
-};
-
-template <class T>
-RecordRow row(const char* name, std::string full, std::vector<const char*> required) {
-  return {name, std::move(full), std::move(required), [](std::string_view json) {
-            const T first = JSONDecoder().decode<T>(json);
-            EXPECT_EQ(JsonValueDecoder().decode<T>(parseJson(json)), first);
-            const std::string text = JSONEncoder().encode(first);
-            EXPECT_EQ(JSONDecoder().decode<T>(text), first) << text;
-          }};
-}
-
 const std::vector<RecordRow>& rows() {
   static const std::vector<RecordRow> table{
-      row<AutoReplyArticleModel>("AutoReplyArticle", kAutoReplyArticle, {}),
-      row<CmsFaqArticleModel>("CmsFaqArticle", kCmsFaqArticle,
-                              {"uid", "title", "summary", "image_url", "type", "feed_type", "cms_static_url"}),
-      row<CmsFaqCategoryModel>("CmsFaqCategory", kCmsFaqCategory,
-                               {"uid", "title", "summary", "image_url", "cms_faq_article_list"}),
-      row<SupportGetCustomerSupportAutoReplyResponse>("GetCustomerSupportAutoReplyResponse", kAutoReplyReply,
-                                                      {"classification"}),
-      row<SupportGetFaqFromCmsResponse>("GetFaqFromCmsResponse", kFaqReply, {"cms_faq_category_list"}),
-      row<SupportGetPopularFaqFromCmsResponse>("GetPopularFaqFromCmsResponse", kFaqReply, {"cms_faq_category_list"}),
-      row<SupportSendSupportTicketResponse>("SendSupportTicketResponse", R"({"ticket": 1})", {}),
+      recordRow<AutoReplyArticleModel>("AutoReplyArticle", kAutoReplyArticle, {}),
+      recordRow<CmsFaqArticleModel>("CmsFaqArticle", kCmsFaqArticle,
+                                    {"uid", "title", "summary", "image_url", "type", "feed_type", "cms_static_url"}),
+      recordRow<CmsFaqCategoryModel>("CmsFaqCategory", kCmsFaqCategory,
+                                     {"uid", "title", "summary", "image_url", "cms_faq_article_list"}),
+      recordRow<SupportGetCustomerSupportAutoReplyResponse>("GetCustomerSupportAutoReplyResponse", kAutoReplyReply,
+                                                            {"classification"}),
+      recordRow<SupportGetFaqFromCmsResponse>("GetFaqFromCmsResponse", kFaqReply, {"cms_faq_category_list"}),
+      recordRow<SupportGetPopularFaqFromCmsResponse>("GetPopularFaqFromCmsResponse", kFaqReply,
+                                                     {"cms_faq_category_list"}),
+      recordRow<SupportSendSupportTicketResponse>("SendSupportTicketResponse", R"({"ticket": 1})", {}),
   };
   return table;
 }

@@ -1,77 +1,59 @@
 // Every Typed-face account record: round trip, required and optional members, enumeration rules.
 #include <gtest/gtest.h>
 
-#include "typed_helpers.hpp"
-
-#include <functional>
-
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
-#include "user/Fixtures.hpp"
 #include <QBComponentAPI/user/enums/UserEnums.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <functional>
+
+#include "typed_helpers.hpp"
+#include "user/Fixtures.hpp"
 
 namespace qb {
 namespace {
 
 using namespace fixtures;
 
-struct RecordRow {
-  const char* name;
-  std::string full;
-  std::vector<const char*> required;  // in declared order
-  // Decodes, then checks that encoding and decoding again gives an equal record.
-  std::function<void(std::string_view)> roundTrip;
-};
-
-template <class T>
-RecordRow row(const char* name, std::string full, std::vector<const char*> required) {
-  return {name, std::move(full), std::move(required), [](std::string_view json) {
-            const T first = JSONDecoder().decode<T>(json);
-            const std::string text = JSONEncoder().encode(first);
-            EXPECT_EQ(JSONDecoder().decode<T>(text), first) << text;
-            EXPECT_EQ(JsonValueDecoder().decode<T>(JsonValueEncoder().encode(first)), first);
-          }};
-}
-
 const std::vector<RecordRow>& rows() {
   static const std::vector<RecordRow> table{
-      row<UserModel>(
+      recordRow<UserModel>(
           "User", kUser,
           {"user_id", "uuid", "created_at", "guest_user", "vip", "auto_renew_status", "expert_consultation_count"}),
-      row<UserAdditionalDataModel>("UserAdditionalData", kUserAdditional,
-                                   {"exist_user", "today_user", "is_vip_in_history"}),
-      row<LoginInfoModel>("LoginInfo", kLoginInfo, {"login_type", "login_key"}),
-      row<LoginMethodModel>("LoginMethod", kLoginMethod, {"type", "login_name"}),
-      row<ThirdPartyUserInfoModel>("ThirdPartyUserInfo", kThirdParty, {}),
-      row<VipInfoModel>(
+      recordRow<UserAdditionalDataModel>("UserAdditionalData", kUserAdditional,
+                                         {"exist_user", "today_user", "is_vip_in_history"}),
+      recordRow<LoginInfoModel>("LoginInfo", kLoginInfo, {"login_type", "login_key"}),
+      recordRow<LoginMethodModel>("LoginMethod", kLoginMethod, {"type", "login_name"}),
+      recordRow<ThirdPartyUserInfoModel>("ThirdPartyUserInfo", kThirdParty, {}),
+      recordRow<VipInfoModel>(
           "VipInfo", kVipInfo,
           {"user_id", "is_vip", "is_trial", "is_auto_renew", "is_vip_in_history", "is_paid_in_history", "vip_level"}),
-      row<DeviceInfoModel>("DeviceInfo", kDevice, {"device_type", "device_token"}),
-      row<DeviceDetailInfoModel>("DeviceDetailInfo", kDeviceDetail,
-                                 {"apps_flyer_id", "country_code", "language", "app_version"}),
-      row<IosDeviceDataModel>("IosDeviceData", kIos, {}),
-      row<AndroidDeviceDataModel>("AndroidDeviceData", kAndroid, {}),
-      row<ClientConfigModel>("ClientConfig", kClientConfig,
-                             {"auto_update", "expert_default_count", "timestamp", "legal_config"}),
-      row<AutoUpdateModel>("AutoUpdate", kAutoUpdate, {"has_update", "force_update"}),
-      row<LegalConfigModel>("LegalConfig", kLegal, {"agreement_version", "privacy_policy_version"}),
-      row<FaqModel>("Faq", kFaq, {"title", "content", "faq_type"}),
-      row<UserInitialiseResponse>("InitialiseResponse", kInitialiseReply,
-                                  {"user", "user_additional_data", "config", "other_configs", "app_server_time"}),
-      row<UserLoginOrCreateResponse>("LoginOrCreateResponse", kLoginReply,
-                                     {"user", "user_additional_data", "access_token"}),
-      row<UserLoginOrCreateForWebsiteResponse>("LoginOrCreateForWebsiteResponse", kLoginReply,
-                                               {"user", "user_additional_data", "access_token"}),
-      row<UserResetPasswordAndLoginResponse>("ResetPasswordAndLoginResponse", kLoginReply,
-                                             {"user", "user_additional_data", "access_token"}),
-      row<UserGetUserResponse>("GetUserResponse", kLoginReply, {"user", "user_additional_data"}),
-      row<UserAppleLoginCallBackResponse>("AppleLoginCallBackResponse", R"({"apple_user_id": "a.1"})",
-                                          {"apple_user_id"}),
-      row<UserGetConfigResponse>("GetConfigResponse", R"({"config": )" + kClientConfig + R"(, "other_configs": {}})",
-                                 {"config", "other_configs"}),
-      row<UserGetFaqResponse>("GetFaqResponse", "{\"faqs\": [" + kFaq + "]}", {"faqs"}),
-      row<UserUpdateResponse>("UpdateResponse", R"({"avatar_url": "https://a.example/2.png"})", {}),
-      row<UserGetVerifyCodeResponse>("GetVerifyCodeResponse", "{}", {}),
+      recordRow<DeviceInfoModel>("DeviceInfo", kDevice, {"device_type", "device_token"}),
+      recordRow<DeviceDetailInfoModel>("DeviceDetailInfo", kDeviceDetail,
+                                       {"apps_flyer_id", "country_code", "language", "app_version"}),
+      recordRow<IosDeviceDataModel>("IosDeviceData", kIos, {}),
+      recordRow<AndroidDeviceDataModel>("AndroidDeviceData", kAndroid, {}),
+      recordRow<ClientConfigModel>("ClientConfig", kClientConfig,
+                                   {"auto_update", "expert_default_count", "timestamp", "legal_config"}),
+      recordRow<AutoUpdateModel>("AutoUpdate", kAutoUpdate, {"has_update", "force_update"}),
+      recordRow<LegalConfigModel>("LegalConfig", kLegal, {"agreement_version", "privacy_policy_version"}),
+      recordRow<FaqModel>("Faq", kFaq, {"title", "content", "faq_type"}),
+      recordRow<UserInitialiseResponse>("InitialiseResponse", kInitialiseReply,
+                                        {"user", "user_additional_data", "config", "other_configs", "app_server_time"}),
+      recordRow<UserLoginOrCreateResponse>("LoginOrCreateResponse", kLoginReply,
+                                           {"user", "user_additional_data", "access_token"}),
+      recordRow<UserLoginOrCreateForWebsiteResponse>("LoginOrCreateForWebsiteResponse", kLoginReply,
+                                                     {"user", "user_additional_data", "access_token"}),
+      recordRow<UserResetPasswordAndLoginResponse>("ResetPasswordAndLoginResponse", kLoginReply,
+                                                   {"user", "user_additional_data", "access_token"}),
+      recordRow<UserGetUserResponse>("GetUserResponse", kLoginReply, {"user", "user_additional_data"}),
+      recordRow<UserAppleLoginCallBackResponse>("AppleLoginCallBackResponse", R"({"apple_user_id": "a.1"})",
+                                                {"apple_user_id"}),
+      recordRow<UserGetConfigResponse>("GetConfigResponse",
+                                       R"({"config": )" + kClientConfig + R"(, "other_configs": {}})",
+                                       {"config", "other_configs"}),
+      recordRow<UserGetFaqResponse>("GetFaqResponse", "{\"faqs\": [" + kFaq + "]}", {"faqs"}),
+      recordRow<UserUpdateResponse>("UpdateResponse", R"({"avatar_url": "https://a.example/2.png"})", {}),
+      recordRow<UserGetVerifyCodeResponse>("GetVerifyCodeResponse", "{}", {}),
   };
   return table;
 }
