@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "cms/Fixtures.hpp"
-#include "user/dict_helpers.hpp"
+#include "dict_helpers.hpp"
 
 namespace qb {
 namespace {
@@ -16,14 +16,6 @@ namespace {
 using namespace fixtures::cms;
 
 JsonValue text(const char* s) { return JsonValue(s); }
-
-using ResultProbe = std::function<bool(QBMessageBase&)>;
-
-// Whether a message's one result is present.
-template <class M, class Getter>
-ResultProbe present(Getter getter) {
-  return [=](QBMessageBase& message) { return static_cast<bool>((dynamic_cast<M&>(message).*getter)()); };
-}
 
 using Articles = QBCmsGetCmsArticlesMessage;
 using Name = QBCmsGetCmsNameMessage;
@@ -38,54 +30,43 @@ std::shared_ptr<Feedback> feedback(std::optional<JsonValue> content) {
                                 text("app"), text("wrong_name"), std::move(content));
 }
 
-struct MessageRow {
-  const char* action;
-  std::function<std::shared_ptr<QBMessageBase>()> full;  // every parameter set
-  const char* params;                                    // compact JSON of full()->getParams()
-  // Required parameters in check order, each with the reason its absence raises.
-  std::vector<std::pair<Mutator, const char*>> required;
-  std::string reply;      // holds the result key
-  const char* resultKey;  // null for a message that reads nothing
-  ResultProbe result;
-};
-
 // The id list travels as its indented JSON text.
 const char* const kUidsParams =
     R"({"cms_name_uids":"[\n  \"a1\",\n  \"b2\"\n]","language_code":1,"country_code":"US"})";
 
 // clang-format off
-const std::vector<MessageRow>& rows() {
-  static const std::vector<MessageRow> table{
+const std::vector<DictMessageRow>& rows() {
+  static const std::vector<DictMessageRow> table{
       {"GetCmsArticles", [] { return Articles::initWithData(text("care"), 1); },
        R"({"content_type":"care","language_code":1})", {},
-       R"({"articles": [)" + kCmsArticle + "]}", "articles", present<Articles>(&Articles::articles)},
+       R"({"articles": [)" + kCmsArticle + "]}", "articles", hasResult<Articles>(&Articles::articles)},
       {"GetCmsName", [] { return Name::initWithData(text("cn-1"), 2, text("US")); },
        R"({"cms_name_uid":"cn-1","language_code":2,"country_code":"US"})",
        {{unset(&Name::setCmsNameUid), "cmsNameUid is missing in model GetCmsName"},
         {unset(&Name::setCountryCode), "countryCode is missing in model GetCmsName"}},
-       R"({"cms_name": )" + kCmsName + "}", "cms_name", present<Name>(&Name::cmsName)},
+       R"({"cms_name": )" + kCmsName + "}", "cms_name", hasResult<Name>(&Name::cmsName)},
       {"GetCmsNameList", [] { return NameList::initWithData(JsonList{"a1", "b2"}, 1, text("US")); },
        kUidsParams,
        {{unset(&NameList::setCmsNameUids), "cmsNameUids is missing in model GetCmsNameList"},
         {unset(&NameList::setCountryCode), "countryCode is missing in model GetCmsNameList"}},
-       R"({"cms_name_list": [)" + kCmsName + "]}", "cms_name_list", present<NameList>(&NameList::cmsNameList)},
+       R"({"cms_name_list": [)" + kCmsName + "]}", "cms_name_list", hasResult<NameList>(&NameList::cmsNameList)},
       {"GetCmsNameLists", [] { return NameLists::initWithData(text("plant"), 0, text("GB")); },
        R"({"content_type":"plant","language_code":0,"country_code":"GB"})",
        {{unset(&NameLists::setContentType), "contentType is missing in model GetCmsNameLists"},
         {unset(&NameLists::setCountryCode), "countryCode is missing in model GetCmsNameLists"}},
        R"({"cms_name_lists": [)" + kCmsNameList + "]}", "cms_name_lists",
-       present<NameLists>(&NameLists::cmsNameLists)},
+       hasResult<NameLists>(&NameLists::cmsNameLists)},
       {"GetStaticContent", [] { return StaticContent::initWithData(text("terms"), 4, text("FR")); },
        R"({"content_type":"terms","language_code":4,"country_code":"FR"})",
        {{unset(&StaticContent::setContentType), "contentType is missing in model GetStaticContent"},
         {unset(&StaticContent::setCountryCode), "countryCode is missing in model GetStaticContent"}},
-       R"({"content": "# Terms"})", "content", present<StaticContent>(&StaticContent::content)},
+       R"({"content": "# Terms"})", "content", hasResult<StaticContent>(&StaticContent::content)},
       {"GetStaticUrl", [] { return StaticUrl::initWithData(text("faq"), 5, text("JP"), text("u-9")); },
        R"({"content_type":"faq","language_code":5,"country_code":"JP","uid":"u-9"})",
        {{unset(&StaticUrl::setContentType), "contentType is missing in model GetStaticUrl"},
         {unset(&StaticUrl::setCountryCode), "countryCode is missing in model GetStaticUrl"}},
        R"({"cms_static_url": )" + kCmsStaticUrl + "}", "cms_static_url",
-       present<StaticUrl>(&StaticUrl::cmsStaticUrl)},
+       hasResult<StaticUrl>(&StaticUrl::cmsStaticUrl)},
       {"UserFeedback", [] { return feedback(text("Not a fern")); },
        R"({"user_id":42,"language_code":3,"country_code":"DE","device_type":2,"device_os":"iOS 17",)"
        R"("device_model":"iPhone15,2","app_version":"2.1.0","product_name":"app","feedback_type":"wrong_name",)"
@@ -103,35 +84,7 @@ const std::vector<MessageRow>& rows() {
 }
 // clang-format on
 
-TEST(CmsDictMessages, BuildTheirParameters) {
-  for (const auto& row : rows()) {
-    SCOPED_TRACE(row.action);
-    EXPECT_EQ(toJson(row.full()->getParams()), row.params);
-  }
-}
-
-TEST(CmsDictMessages, EachMissingRequiredParameterRaisesItsReason) {
-  for (const auto& row : rows()) {
-    SCOPED_TRACE(row.action);
-    expectRequiredParametersRaise(row.full, row.required);
-  }
-}
-
-TEST(CmsDictMessages, ParseResponseReadsTheResultKey) {
-  for (const auto& row : rows()) {
-    SCOPED_TRACE(row.action);
-    const JsonMap reply = parseJsonMap(row.reply);
-    const auto message = row.full();
-    EXPECT_EQ(&message->parseResponse(reply), message.get());
-    if (!row.resultKey) continue;
-    EXPECT_TRUE(row.result(*message));
-    JsonMap without = reply;
-    without.erase(row.resultKey);
-    const auto fresh = row.full();
-    fresh->parseResponse(without);
-    EXPECT_FALSE(row.result(*fresh)) << "without " << row.resultKey;
-  }
-}
+TEST(CmsDictMessages, BuildTheirParametersCheckTheRequiredOnesAndReadTheirResultKey) { expectMessageRows(rows()); }
 
 TEST(CmsDictMessages, ResultsHoldTheReplyRecords) {
   auto name = Name::initWithData(text("cn-1"), 0, text("US"));

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "cms/Fixtures.hpp"
-#include "user/dict_helpers.hpp"
+#include "dict_helpers.hpp"
 
 namespace qb {
 namespace {

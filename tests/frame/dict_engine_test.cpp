@@ -1,12 +1,6 @@
 // The Dictionary-face engine, exercised through the configuration records and the get_config message.
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <functional>
-#include <string>
-#include <thread>
-#include <tuple>
-
 #include <QBComponentAPI/frame/DictModel.hpp>
 #include <QBComponentAPI/user/dict/QBAPIAutoUpdate.hpp>
 #include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
@@ -15,6 +9,11 @@
 #include <QBComponentAPI/user/dict/QBUserGetConfigMessage.hpp>
 #include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
 #include <QBComponentAPI/user/dict/QBUserInitialiseMessage.hpp>
+#include <atomic>
+#include <functional>
+#include <string>
+#include <thread>
+#include <tuple>
 
 namespace qb {
 namespace {
@@ -211,8 +210,8 @@ TEST(DictEngine, AReplyThatFailsPartWayLeavesEveryResultAsItWas) {
       {R"({"access_token": "new", "app_server_time": 5, "config": "text"})", "JsonTypeError"},
   };
   const auto results = [](const QBUserInitialiseMessage& m) {
-    return std::tuple(m.user().get(), m.userAdditionalData().get(), m.accessToken(), m.config().get(),
-                      m.otherConfigs(), m.appServerTime(), m.country());
+    return std::tuple(m.user().get(), m.userAdditionalData().get(), m.accessToken(), m.config().get(), m.otherConfigs(),
+                      m.appServerTime(), m.country());
   };
   for (const auto& c : cases) {
     for (const bool given : {false, true}) {

@@ -46,21 +46,41 @@ struct Refused {
 TEST(CliArguments, RefusedWithTheKeyTheUserTyped) {
   const Refused cases[] = {
       // Text for an integer would otherwise be read as 0; a fraction as its integer part.
-      {"user/get_config", true, R"({"language_code": "english", "country_code": "US"})", {}, "language_code",
+      {"user/get_config",
+       true,
+       R"({"language_code": "english", "country_code": "US"})",
+       {},
+       "language_code",
        "takes an integer"},
-      {"user/get_config", true, R"({"language_code": 1.5, "country_code": "US"})", {}, "language_code",
+      {"user/get_config",
+       true,
+       R"({"language_code": 1.5, "country_code": "US"})",
+       {},
+       "language_code",
        "takes an integer"},
-      {"user/get_config", true, R"({"language_code": 1, "country_code": "US", "colour": "red"})", {}, "colour",
+      {"user/get_config",
+       true,
+       R"({"language_code": 1, "country_code": "US", "colour": "red"})",
+       {},
+       "colour",
        "not a parameter of v3/user/get_config"},
-      {"user/get_config", false, R"({"language_code": 1, "country_code": "US", "colour": "red"})", {}, "colour",
+      {"user/get_config",
+       false,
+       R"({"language_code": 1, "country_code": "US", "colour": "red"})",
+       {},
+       "colour",
        "not a parameter of v3/user/get_config"},
       {"user/get_config", true, R"({"language_code": 1})", {}, "country_code", "required"},
       {"user/get_config", false, R"({"language_code": 1})", {}, "country_code", "required"},
       // A Typed-face argument that does not decode is the argument's fault, not the reply's.
       {"user/get_config", false, R"({"language_code": "english", "country_code": "US"})", {}, "language_code", ""},
       {"user/get_config", false, R"({"language_code": 1, "country_code": null})", {}, "country_code", "null"},
-      {"user/initialise", false, R"({"language_code": 1, "country_code": "US", "login_info": {"login_key": "k"}})",
-       {}, "login_info", "login_info.login_type"},
+      {"user/initialise",
+       false,
+       R"({"language_code": 1, "country_code": "US", "login_info": {"login_key": "k"}})",
+       {},
+       "login_info",
+       "login_info.login_type"},
       // A file only where the endpoint takes one, and the file parameter only as a file.
       {"user/get_config", true, R"({"language_code": 1})", {"country_code"}, "country_code", "not a file"},
       {"user/get_config", false, R"({"language_code": 1})", {"country_code"}, "country_code", "not a file"},
@@ -89,7 +109,8 @@ TEST(CliArguments, ParametersOfTheFaceAreAccepted) {
   } cases[] = {
       {"user/get_config", R"({"language_code": 1, "country_code": "US"})", {}},
       {"user/initialise",
-       R"({"language_code": 0, "country_code": "US", "login_info": {"login_type": 3, "login_key": "k"}})", {}},
+       R"({"language_code": 0, "country_code": "US", "login_info": {"login_type": 3, "login_key": "k"}})",
+       {}},
       {"user/update", R"({"nickname": "Fern", "gender": 1})", {"avatar"}},
       {"user/get", "{}", {}},
   };
@@ -244,7 +265,8 @@ TEST(CliEndpoints, ReadmeTableMatchesTheCatalogues) {
   EXPECT_EQ(readme.substr(from + begin.size(), to - from - begin.size()), cli::endpointTable());
   // One row per endpoint, one registry entry per path.
   const auto rows = std::count(readme.begin() + static_cast<std::ptrdiff_t>(from),
-                               readme.begin() + static_cast<std::ptrdiff_t>(to), '\n') - 3;
+                               readme.begin() + static_cast<std::ptrdiff_t>(to), '\n') -
+                    3;
   EXPECT_EQ(static_cast<std::size_t>(rows), cli::registry().size());
 }
 

@@ -1,15 +1,15 @@
 // The reference host against the mock service (every account endpoint, both faces) and against servers
 // that fail in scripted ways. Loopback only; every wait is bounded.
-#include <QBComponentAPI/host/Client.hpp>
-
 #include <gtest/gtest.h>
+
+#include <QBComponentAPI/host/Client.hpp>
+#include <QBComponentAPI/host/mocks/MockTransport.hpp>
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 #include "cli/Registry.hpp"
 #include "host/FaultServer.hpp"
-#include <QBComponentAPI/host/mocks/MockTransport.hpp>
 #include "mock/Service.hpp"
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
 
 namespace qb {
 namespace {

@@ -9,7 +9,7 @@
 #include <functional>
 #include <set>
 
-#include "mock/Service.hpp"
+#include "host/MockSession.hpp"
 
 namespace qb {
 namespace {
@@ -33,21 +33,10 @@ class Interposer : public host::Transport {
   std::shared_ptr<host::Transport> real = host::makeCurlTransport();
 };
 
-struct Account {
-  mock::Service service;
-  std::shared_ptr<Interposer> transport = std::make_shared<Interposer>();
-  host::Client client;
-  Account()
-      : client(
-            [this] {
-              service.start();
-              return host::ClientOptions{.baseUrl = service.baseUrl(), .allowInsecureLoopback = true};
-            }(),
-            transport) {
-    auto init = QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, JsonValue("US"));
-    client.send(*init);
-    client.setAccessToken(std::string(init->accessToken()->as_string()));
-  }
+struct Account : MockSession {
+  std::shared_ptr<Interposer> transport;
+  explicit Account(std::shared_ptr<Interposer> interposer = std::make_shared<Interposer>())
+      : MockSession(interposer), transport(std::move(interposer)) {}
 
   std::vector<std::int64_t> all() {
     std::vector<std::int64_t> ids;
@@ -69,8 +58,8 @@ TEST(Collection, EveryPageSizeGivesTheWholeCollectionOnce) {
   Account account;
   const auto expected = account.all();
   ASSERT_GE(expected.size(), 6u);
-  for (const std::int64_t size : {std::int64_t{1}, std::int64_t{5}, static_cast<std::int64_t>(expected.size()),
-                                  std::int64_t{500}}) {
+  for (const std::int64_t size :
+       {std::int64_t{1}, std::int64_t{5}, static_cast<std::int64_t>(expected.size()), std::int64_t{500}}) {
     SCOPED_TRACE(size);
     host::Collection items = account.client.collection({.pageSize = size});
     EXPECT_EQ(ids(items), expected);
@@ -139,8 +128,9 @@ TEST(Collection, AServiceThatDoesNotAdvanceIsAnError) {
   };
   host::Collection items = account.client.collection({.pageSize = 3});
   JsonList page;
-  for (std::size_t i = 0; i < 3; ++i) page.push_back(JsonMap{{"item_id", expected[i]}, {"item_image", JsonMap{}},
-                                                             {"shoot_at", 1700000000}, {"name", "n"}});
+  for (std::size_t i = 0; i < 3; ++i)
+    page.push_back(
+        JsonMap{{"item_id", expected[i]}, {"item_image", JsonMap{}}, {"shoot_at", 1700000000}, {"name", "n"}});
   firstPage = toJson(JsonMap{{"items", page}});
   EXPECT_THROW(ids(items), host::PagingError);
 }

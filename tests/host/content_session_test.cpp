@@ -8,7 +8,7 @@
 #include <set>
 
 #include "cli/Registry.hpp"
-#include "mock/Service.hpp"
+#include "host/MockSession.hpp"
 
 namespace qb {
 namespace {
@@ -36,19 +36,7 @@ const std::map<std::string_view, const char*> kArguments{
         "share_ids": ["s1"]})"},
 };
 
-struct Session {
-  mock::Service service;
-  host::Client client;
-  Session()
-      : client([this] {
-          service.start();
-          return host::ClientOptions{.baseUrl = service.baseUrl(), .allowInsecureLoopback = true};
-        }()) {
-    auto init = QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, JsonValue("US"));
-    client.send(*init);
-    client.setAccessToken(std::string(init->accessToken()->as_string()));
-  }
-};
+using Session = MockSession;
 
 template <class Endpoints>
 void callEvery(Session& session, std::set<std::string>& called) {

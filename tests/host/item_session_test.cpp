@@ -9,23 +9,14 @@
 #include <set>
 
 #include "cli/Registry.hpp"
-#include "mock/Service.hpp"
+#include "host/MockSession.hpp"
 
 namespace qb {
 namespace {
 
-struct Session {
-  mock::Service service;
-  host::Client client;
+struct Session : MockSession {
   std::vector<std::int64_t> ids;  // the seeded collection, newest first
-  Session()
-      : client([this] {
-          service.start();
-          return host::ClientOptions{.baseUrl = service.baseUrl(), .allowInsecureLoopback = true};
-        }()) {
-    auto init = QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, JsonValue("US"));
-    client.send(*init);
-    client.setAccessToken(std::string(init->accessToken()->as_string()));
+  Session() {
     for (const auto& item : client.send(ItemListMyCollectionsRequest{}).items) ids.push_back(item.itemId);
   }
   ItemDetailModel detail(std::int64_t id) {

@@ -5,26 +5,14 @@
 #include <QBComponentAPI/QBComponentAPI.hpp>
 #include <QBComponentAPI/host/Client.hpp>
 
-#include "mock/Service.hpp"
+#include "host/MockSession.hpp"
 
 namespace qb {
 namespace {
 
-struct Session {
-  mock::Service service;
-  host::Client client;
-  std::int64_t userId = 0;
+struct Session : MockSession {
+  std::int64_t userId = client.send(UserGetUserRequest{}).user.userId;
   std::shared_ptr<host::Transport> raw = host::makeCurlTransport();
-  Session()
-      : client([this] {
-          service.start();
-          return host::ClientOptions{.baseUrl = service.baseUrl(), .allowInsecureLoopback = true};
-        }()) {
-    auto init = QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, JsonValue("US"));
-    client.send(*init);
-    client.setAccessToken(std::string(init->accessToken()->as_string()));
-    userId = client.send(UserGetUserRequest{}).user.userId;
-  }
   // The service's own view of the account, through its /_mock/ route.
   JsonMap mockVip(const std::string& body = {}) {
     host::HttpRequest request{.method = body.empty() ? "GET" : "POST",

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "dict_helpers.hpp"
 #include "item/Fixtures.hpp"
-#include "user/dict_helpers.hpp"
 
 namespace qb {
 namespace {
@@ -17,14 +17,6 @@ using namespace fixtures::item;
 
 JsonValue text(const char* s) { return JsonValue(s); }
 const JsonValue kId(std::int64_t{9007199254740993});
-
-using ResultProbe = std::function<bool(QBMessageBase&)>;
-
-// Whether a message's one result is present.
-template <class M, class Getter>
-ResultProbe present(Getter getter) {
-  return [=](QBMessageBase& message) { return static_cast<bool>((dynamic_cast<M&>(message).*getter)()); };
-}
 
 using Detail = QBItemGetItemDetailMessage;
 using List = QBItemListMyCollectionsMessage;
@@ -35,28 +27,17 @@ using CustomNote = QBItemUpdateItemCustomNoteMessage;
 using Location = QBItemUpdateItemLocationMessage;
 using OriginalImage = QBItemUpdateItemOriginalImageUrlMessage;
 
-struct MessageRow {
-  const char* action;
-  std::function<std::shared_ptr<QBMessageBase>()> full;  // every parameter set
-  const char* params;                                    // compact JSON of full()->getParams()
-  // Required parameters in check order, each with the reason its absence raises.
-  std::vector<std::pair<Mutator, const char*>> required;
-  std::string reply;      // holds the result key
-  const char* resultKey;  // null for a message that reads nothing
-  ResultProbe result;
-};
-
 // clang-format off
-const std::vector<MessageRow>& rows() {
-  static const std::vector<MessageRow> table{
+const std::vector<DictMessageRow>& rows() {
+  static const std::vector<DictMessageRow> table{
       {"GetItemDetail", [] { return Detail::initWithData(kId, 2, text("US"), JsonValue(1)); },
        R"({"item_id":9007199254740993,"language_code":2,"country_code":"US","sign_image_url":1})",
        {{unset(&Detail::setItemId), "itemId is missing in model GetItemDetail"},
         {unset(&Detail::setCountryCode), "countryCode is missing in model GetItemDetail"}},
-       R"({"item": )" + kItemDetail + "}", "item", present<Detail>(&Detail::item)},
+       R"({"item": )" + kItemDetail + "}", "item", hasResult<Detail>(&Detail::item)},
       {"ListMyCollections", [] { return List::initWithData(JsonValue(true), JsonValue(0)); },
        R"({"return_first_item_in_batch":true,"sign_image_url":0})", {},
-       R"({"items": [)" + kSimpleItem + "]}", "items", present<List>(&List::items)},
+       R"({"items": [)" + kSimpleItem + "]}", "items", hasResult<List>(&List::items)},
       {"DeleteItem", [] { return Delete::initWithData(kId); },
        R"({"item_id":9007199254740993})",
        {{unset(&Delete::setItemId), "itemId is missing in model DeleteItem"}}, "{}", nullptr, nullptr},
@@ -77,7 +58,7 @@ const std::vector<MessageRow>& rows() {
        {{unset(&CustomNote::setItemId), "itemId is missing in model UpdateItemCustomNote"},
         {unset(&CustomNote::setNote), "note is missing in model UpdateItemCustomNote"}},
        R"({"notes_with_signed_url": "Water weekly"})", "notes_with_signed_url",
-       present<CustomNote>(&CustomNote::notesWithSignedUrl)},
+       hasResult<CustomNote>(&CustomNote::notesWithSignedUrl)},
       // 0 degrees is a place like any other.
       {"UpdateItemLocation", [] { return Location::initWithData(kId, JsonValue(0), JsonValue(-35.6895)); },
        R"({"item_id":9007199254740993,"lng":0,"lat":-35.6895})",
@@ -105,39 +86,9 @@ const std::vector<MessageRow>& rows() {
 }
 // clang-format on
 
-TEST(ItemDictMessages, BuildTheirParameters) {
+TEST(ItemDictMessages, BuildTheirParametersCheckTheRequiredOnesAndReadTheirResultKey) {
   EXPECT_EQ(rows().size(), 10u);
-  for (const auto& row : rows()) {
-    SCOPED_TRACE(row.action);
-    EXPECT_EQ(toJson(row.full()->getParams()), row.params);
-  }
-}
-
-TEST(ItemDictMessages, EachMissingRequiredParameterRaisesItsReason) {
-  for (const auto& row : rows()) {
-    SCOPED_TRACE(row.action);
-    expectRequiredParametersRaise(row.full, row.required);
-  }
-}
-
-TEST(ItemDictMessages, ParseResponseReadsTheResultKey) {
-  for (const auto& row : rows()) {
-    SCOPED_TRACE(row.action);
-    const JsonMap reply = parseJsonMap(row.reply);
-    const auto message = row.full();
-    EXPECT_EQ(&message->parseResponse(reply), message.get());
-    if (!row.resultKey) {
-      // Nothing is read: a reply of any content leaves the message as it was.
-      EXPECT_EQ(&message->parseResponse(parseJsonMap(R"({"item": null, "items": 3})")), message.get());
-      continue;
-    }
-    EXPECT_TRUE(row.result(*message));
-    JsonMap without = reply;
-    without.erase(row.resultKey);
-    const auto fresh = row.full();
-    fresh->parseResponse(without);
-    EXPECT_FALSE(row.result(*fresh)) << "without " << row.resultKey;
-  }
+  expectMessageRows(rows());
 }
 
 TEST(ItemDictMessages, OptionalParametersAreLeftOutAndTheLanguageCodeAlwaysSent) {

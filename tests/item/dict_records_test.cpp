@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "dict_helpers.hpp"
 #include "item/Fixtures.hpp"
-#include "user/dict_helpers.hpp"
 
 namespace qb {
 namespace {

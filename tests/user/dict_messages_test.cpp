@@ -2,12 +2,12 @@
 // required parameter, and the reply keys it reads.
 #include <gtest/gtest.h>
 
+#include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <cstring>
 #include <functional>
 
+#include "dict_helpers.hpp"
 #include "user/Fixtures.hpp"
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include "user/dict_helpers.hpp"
 
 namespace qb {
 namespace {
@@ -35,7 +35,7 @@ ResultProbe present(Getters... getters) {
 
 struct MessageRow {
   std::function<std::shared_ptr<QBMessageBase>()> full;  // every parameter set
-  const char* path;  // names the row; what each face tells the host is checked against the catalogue
+  const char* path;    // names the row; what each face tells the host is checked against the catalogue
   const char* params;  // compact JSON of full()->getParams()
   // Required parameters in check order, each with the reason its absence raises.
   std::vector<std::pair<Mutator, const char*>> required;

@@ -2,12 +2,12 @@
 // integer fields.
 #include <gtest/gtest.h>
 
+#include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <functional>
 #include <set>
 
+#include "dict_helpers.hpp"
 #include "user/Fixtures.hpp"
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include "user/dict_helpers.hpp"
 
 namespace qb {
 namespace {

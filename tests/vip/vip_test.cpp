@@ -7,8 +7,8 @@
 #include <QBComponentAPI/vip/typed/VipTyped.hpp>
 #include <functional>
 
+#include "dict_helpers.hpp"
 #include "typed_helpers.hpp"
-#include "user/dict_helpers.hpp"
 #include "vip/Fixtures.hpp"
 
 namespace qb {
