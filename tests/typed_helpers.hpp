@@ -29,6 +29,30 @@ Described describe(const R& request) {
   return {request.api(), request.parseParamater(JSONEncoder()), request.mimeBodies().size()};
 }
 
+// One request of a domain's table: its path and the exact body it encodes to (no multipart parts).
+struct RequestRow {
+  std::function<Described()> described;
+  const char* path;
+  const char* body;
+};
+
+inline void expectRequestRows(const std::vector<RequestRow>& rows) {
+  for (const auto& row : rows) {
+    const Described d = row.described();
+    SCOPED_TRACE(row.body);
+    EXPECT_EQ(d.api, row.path);
+    EXPECT_EQ(d.body, row.body);
+    EXPECT_EQ(d.mimeBodies, 0u);
+  }
+}
+
+// The keys of a JSON object, in their order.
+inline std::vector<std::string> keysOf(const JsonValue& value) {
+  std::vector<std::string> keys;
+  for (const auto& member : value.as_object()) keys.emplace_back(member.key());
+  return keys;
+}
+
 // One record of a domain's table tests: a complete reply, its required keys in declared order, and checks
 // typed by the record.
 struct RecordRow {

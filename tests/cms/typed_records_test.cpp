@@ -127,12 +127,6 @@ void withoutIllustrations(JsonValue& value) {
   }
 }
 
-std::vector<std::string> keysOf(const JsonValue& value) {
-  std::vector<std::string> keys;
-  for (const auto& member : value.as_object()) keys.emplace_back(member.key());
-  return keys;
-}
-
 TEST(CmsTypedRecords, FullRepliesRoundTripAndEncodeEveryKeyInReplyOrder) {
   for (const auto& row : rows()) {
     SCOPED_TRACE(row.name);

@@ -278,10 +278,10 @@ TEST(TypedCodec, KeysMatchExactlyWhateverTheirOrderPrefixesLengthOrEscapes) {
 
 TEST(TypedCodec, NumbersReadOnTheFastPathAsTheFullParseReadsThem) {
   // Long mantissas (more than 19 significant digits) once came back as 0 from the streaming parser.
-  for (std::string number : {std::string("2") + std::string(60, '9') + ".5", std::string("123456789012345678901e0"),
-                             std::string("1234567890123456789012.0e-3"), std::string("-0"), std::string("1.5"),
-                             std::string("-2.5e-300"), std::string("18446744073709551615"),
-                             std::string("-9223372036854775808")}) {
+  for (std::string number :
+       {std::string("2") + std::string(60, '9') + ".5", std::string("123456789012345678901e0"),
+        std::string("1234567890123456789012.0e-3"), std::string("-0"), std::string("1.5"), std::string("-2.5e-300"),
+        std::string("18446744073709551615"), std::string("-9223372036854775808")}) {
     const std::string json =
         R"({"id": 1, "tier": 0, "tags": [], "weight": )" + number + R"(, "extra": {"n": )" + number + "}}";
     const auto fast = streamed<Item>(json);

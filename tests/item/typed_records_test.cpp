@@ -38,12 +38,6 @@ const std::vector<RecordRow>& rows() {
   return table;
 }
 
-std::vector<std::string> keysOf(const JsonValue& value) {
-  std::vector<std::string> keys;
-  for (const auto& member : value.as_object()) keys.emplace_back(member.key());
-  return keys;
-}
-
 TEST(ItemTypedRecords, FullRepliesRoundTrip) {
   for (const auto& row : rows()) {
     SCOPED_TRACE(row.name);
