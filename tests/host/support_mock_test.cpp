@@ -9,24 +9,13 @@
 #include <map>
 #include <set>
 
-#include "mock/Service.hpp"
+#include "host/MockSession.hpp"
 
 namespace qb {
 namespace {
 
-struct Account {
-  mock::Service service;
-  host::Client client;
-  std::int64_t userId = 0;
-  Account()
-      : client([this] {
-          service.start();
-          return host::ClientOptions{.baseUrl = service.baseUrl(), .allowInsecureLoopback = true};
-        }()) {
-    const auto init = client.send(UserInitialiseRequest{.languageCode = LanguageCode::en, .countryCode = "US"});
-    client.setAccessToken(init.accessToken);
-    userId = init.user.userId;
-  }
+struct Account : MockSession {
+  std::int64_t userId = client.send(UserGetUserRequest{}).user.userId;
   JsonList tickets(std::int64_t id) const {
     const std::string url = service.baseUrl() + "_mock/tickets/" + std::to_string(id);
     return parseJsonMap(host::makeCurlTransport()->send(host::HttpRequest{.method = "GET", .url = url}).body)
