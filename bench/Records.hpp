@@ -3,8 +3,6 @@
 // user record a collection-shaped reply.
 #pragma once
 
-#include <vector>
-
 #include <QBComponentAPI/cms/dict/CmsDict.hpp>
 #include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 #include <QBComponentAPI/frame/DictModel.hpp>
@@ -21,6 +19,7 @@
 #include <QBComponentAPI/user/typed/UserGetFaqResponse.hpp>
 #include <QBComponentAPI/user/typed/UserInitialiseResponse.hpp>
 #include <QBComponentAPI/user/typed/UserModel.hpp>
+#include <vector>
 
 namespace qb::bench {
 
