@@ -9,7 +9,7 @@ const std::vector<Reply>& corpus() {
   static const std::vector<Reply> replies = [] {
     std::vector<Reply> all;
     // Each domain adds its generator to this list.
-    for (auto generate : {userReplies, cmsReplies}) {
+    for (auto generate : {userReplies, cmsReplies, itemReplies}) {
       for (Reply& r : generate()) all.push_back(std::move(r));
     }
     return all;
