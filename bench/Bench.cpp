@@ -1,11 +1,12 @@
 // The benchmarks: every reply of the corpus through the Typed face, the Dictionary face and the
-// encoder, each against its peers on the same bytes; and the peak memory of decoding the largest reply.
+// encoder, each against its peers on the same bytes; and the peak memory of decoding the largest replies.
 // Names are <group>/<variant>/<reply>; report.py turns the JSON output into the ratio table.
 #include <benchmark/benchmark.h>
-
-#include <boost/json/monotonic_resource.hpp>
 #include <malloc.h>
 
+#include <QBComponentAPI/frame/JSONEncoder.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
+#include <boost/json/monotonic_resource.hpp>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -19,8 +20,6 @@
 #include "Corpus.hpp"
 #include "Memory.hpp"
 #include "Records.hpp"
-#include <QBComponentAPI/frame/JSONEncoder.hpp>
-#include <QBComponentAPI/frame/Json.hpp>
 #include "peers/Peers.hpp"
 
 namespace qb::bench {
@@ -33,8 +32,8 @@ bool firstRun(const Reply& reply, std::string_view variant) {
 }
 
 template <class Decode, class Check>
-void measure(benchmark::State& state, const Reply& reply, std::string_view variant, std::size_t bytes,
-             Decode decode, Check check) {
+void measure(benchmark::State& state, const Reply& reply, std::string_view variant, std::size_t bytes, Decode decode,
+             Check check) {
   if (firstRun(reply, variant)) {
     std::string problem;
     try {
@@ -61,8 +60,9 @@ void measure(benchmark::State& state, const Reply& reply, std::string_view varia
 }
 
 std::string compare(std::uint64_t got, std::uint64_t expected) {
-  return got == expected ? std::string() : "checksum " + std::to_string(got) + " differs from the reference " +
-                                               std::to_string(expected);
+  return got == expected
+             ? std::string()
+             : "checksum " + std::to_string(got) + " differs from the reference " + std::to_string(expected);
 }
 
 // The reference checksum of a reply's records, from a decoder other than the library's.
@@ -87,24 +87,22 @@ void addProfileTarget(const std::string& name, const Reply& reply, Decode decode
 
 template <class T, class Decode>
 void registerDecoder(const std::string& group, const std::string& variant, const Reply& reply, Decode decode) {
-  auto* b = benchmark::RegisterBenchmark((group + "/" + variant + "/" + reply.name).c_str(),
-                                         [&reply, variant, decode](benchmark::State& state) {
-                                           measure(state, reply, "typed/" + variant, reply.json.size(), decode,
-                                                   [&](const T& result) {
-                                                     return compare(checksumOf(result), referenceChecksum<T>(reply));
-                                                   });
-                                         });
+  auto* b = benchmark::RegisterBenchmark(
+      (group + "/" + variant + "/" + reply.name).c_str(), [&reply, variant, decode](benchmark::State& state) {
+        measure(state, reply, "typed/" + variant, reply.json.size(), decode,
+                [&](const T& result) { return compare(checksumOf(result), referenceChecksum<T>(reply)); });
+      });
   b->Unit(reply.large ? benchmark::kMillisecond : benchmark::kNanosecond);
   addProfileTarget(group + "/" + variant + "/" + reply.name, reply, decode);
 }
 
 template <class T>
 void registerTyped(const Reply& reply) {
-  auto* ceiling = benchmark::RegisterBenchmark(("typed/ceiling/" + reply.name).c_str(), [&reply](benchmark::State& state) {
-    measure(state, reply, "typed/ceiling", reply.json.size(), peers::simdjsonWalk, [&](std::uint64_t sum) {
-      return compare(sum, hashJson(parseJson(reply.json)));
-    });
-  });
+  auto* ceiling =
+      benchmark::RegisterBenchmark(("typed/ceiling/" + reply.name).c_str(), [&reply](benchmark::State& state) {
+        measure(state, reply, "typed/ceiling", reply.json.size(), peers::simdjsonWalk,
+                [&](std::uint64_t sum) { return compare(sum, hashJson(parseJson(reply.json))); });
+      });
   ceiling->Unit(reply.large ? benchmark::kMillisecond : benchmark::kNanosecond);
   registerDecoder<T>("typed", "qb", reply, [](std::string_view json) { return JSONDecoder().decode<T>(json); });
   registerDecoder<T>("typed", "handwritten", reply, peers::decodeHandWritten<T>);
@@ -130,16 +128,17 @@ void registerDictionary(const Reply& reply, std::size_t (*count)(const Message&)
   for (bool pooled : {false, true}) {
     const std::string variant = pooled ? "qb_monotonic" : "qb";
     benchmark::RegisterBenchmark(("dict/" + variant + "/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
-      measure(state, reply, "dict/" + variant, reply.json.size(),
-              [pooled](std::string_view json) {
-                return decodeDictionary<T, Message>(json, pooled ? monotonic() : boost::json::storage_ptr());
-              },
-              [&](const std::shared_ptr<Message>& message) {
-                const std::size_t want = expected(JSONDecoder().decode<T>(reply.json));
-                return count(*message) == want ? std::string()
-                                                : "read " + std::to_string(count(*message)) + " records, expected " +
-                                                      std::to_string(want);
-              });
+      measure(
+          state, reply, "dict/" + variant, reply.json.size(),
+          [pooled](std::string_view json) {
+            return decodeDictionary<T, Message>(json, pooled ? monotonic() : boost::json::storage_ptr());
+          },
+          [&](const std::shared_ptr<Message>& message) {
+            const std::size_t want = expected(JSONDecoder().decode<T>(reply.json));
+            return count(*message) == want
+                       ? std::string()
+                       : "read " + std::to_string(count(*message)) + " records, expected " + std::to_string(want);
+          });
     })->Unit(unit);
     addProfileTarget("dict/" + variant + "/" + reply.name, reply, [pooled](std::string_view json) {
       return decodeDictionary<T, Message>(json, pooled ? monotonic() : boost::json::storage_ptr());
@@ -149,12 +148,15 @@ void registerDictionary(const Reply& reply, std::size_t (*count)(const Message&)
     return n == parseJsonMap(reply.json).size() ? std::string() : std::string("wrong member count");
   };
   benchmark::RegisterBenchmark(("dict/boost_parse/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
-    measure(state, reply, "dict/boost_parse", reply.json.size(), [](std::string_view json) { return peers::parseBoost(json); },
-            members);
+    measure(
+        state, reply, "dict/boost_parse", reply.json.size(),
+        [](std::string_view json) { return peers::parseBoost(json); }, members);
   })->Unit(unit);
-  benchmark::RegisterBenchmark(("dict/boost_parse_monotonic/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
-    measure(state, reply, "dict/boost_parse_monotonic", reply.json.size(),
-            [](std::string_view json) { return peers::parseBoost(json, monotonic()); }, members);
+  benchmark::RegisterBenchmark(("dict/boost_parse_monotonic/" + reply.name).c_str(), [=,
+                                                                                      &reply](benchmark::State& state) {
+    measure(
+        state, reply, "dict/boost_parse_monotonic", reply.json.size(),
+        [](std::string_view json) { return peers::parseBoost(json, monotonic()); }, members);
   })->Unit(unit);
   benchmark::RegisterBenchmark(("dict/nlohmann_parse/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
     measure(state, reply, "dict/nlohmann_parse", reply.json.size(), peers::parseNlohmann, members);
@@ -183,61 +185,73 @@ void registerEncoding(const Reply& reply) {
   const auto unit = reply.large ? benchmark::kMillisecond : benchmark::kNanosecond;
   benchmark::RegisterBenchmark(("encode/qb/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
     const Inputs& in = prepared();
-    measure(state, reply, "encode/qb", in.text.size(), [&](std::string_view) { return JSONEncoder().encode(in.records); },
-            roundTrip);
+    measure(
+        state, reply, "encode/qb", in.text.size(), [&](std::string_view) { return JSONEncoder().encode(in.records); },
+        roundTrip);
   })->Unit(unit);
   addProfileTarget("encode/qb/" + reply.name, reply,
                    [prepared](std::string_view) { return JSONEncoder().encode(prepared().records); });
   benchmark::RegisterBenchmark(("encode/boost/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
     const Inputs& in = prepared();
-    measure(state, reply, "encode/boost", in.text.size(), [&](std::string_view) { return in.boost.write(); }, roundTrip);
+    measure(
+        state, reply, "encode/boost", in.text.size(), [&](std::string_view) { return in.boost.write(); }, roundTrip);
   })->Unit(unit);
   benchmark::RegisterBenchmark(("encode/nlohmann/" + reply.name).c_str(), [=, &reply](benchmark::State& state) {
     const Inputs& in = prepared();
-    measure(state, reply, "encode/nlohmann", in.text.size(), [&](std::string_view) { return in.nlohmann.write(); },
-            roundTrip);
+    measure(
+        state, reply, "encode/nlohmann", in.text.size(), [&](std::string_view) { return in.nlohmann.write(); },
+        roundTrip);
   })->Unit(unit);
 }
 
 // Peak memory: one decode on a fresh thread (so per-thread parser buffers start empty), counted by
 // operator new and by the process's resident set. Reported relative to the reply's size: the peak while
 // decoding, what the result holds, and what the decoder still keeps for the thread once the result is
-// gone and the thread has decoded a small reply. Allocated bytes overstate what a parser's large, mostly untouched buffers cost; the
-// resident peak shows what the machine gave.
+// gone and the thread has decoded a small reply. Allocated bytes overstate what a parser's large, mostly untouched
+// buffers cost; the resident peak shows what the machine gave.
 template <class Decode>
 void registerMemory(const std::string& variant, const Reply& reply, const Reply& small, Decode decode) {
-  benchmark::RegisterBenchmark(("memory/" + variant + "/" + reply.name).c_str(), [&reply, &small, decode](benchmark::State& state) {
-    memory::Usage during, atRest, after;
-    std::int64_t residentBefore = 0, residentPeak = 0;
-    // Large blocks always come fresh from the system here, so no variant finds pages that an earlier
-    // one left behind (glibc otherwise raises its mmap threshold after the first large free).
-    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
-    for (auto _ : state) {
-      // Twice, keeping the second: the process's first large decode on a new thread touches more pages
-      // (arena and page tables) than any later one, whichever variant it is.
-      for (int run = 0; run < 2; ++run) std::thread([&] {
-        memory::resetResidentPeak();
-        residentBefore = memory::resident();
-        memory::start();
-        {
-          auto result = decode(reply.json);
-          during = memory::usage();
-          residentPeak = memory::residentPeak();
-        }
-        atRest = memory::usage();
-        // What stays allocated once the thread has decoded a small reply after the large one.
-        benchmark::DoNotOptimize(decode(small.json));
-        after = memory::usage();
-        memory::stop();
-      }).join();
-    }
-    const auto size = static_cast<double>(reply.json.size());
-    state.counters["peak_x"] = static_cast<double>(during.peak) / size;
-    state.counters["result_x"] = static_cast<double>(during.now - atRest.now) / size;
-    state.counters["kept_x"] = static_cast<double>(after.now) / size;
-    state.counters["resident_peak_x"] = static_cast<double>(residentPeak - residentBefore) / size;
-    state.counters["bytes"] = size;
-  })->Iterations(1)->Repetitions(1)->Unit(benchmark::kMillisecond);
+  benchmark::RegisterBenchmark(("memory/" + variant + "/" + reply.name).c_str(),
+                               [&reply, &small, decode](benchmark::State& state) {
+                                 memory::Usage during, atRest, after;
+                                 std::int64_t residentBefore = 0, residentPeak = 0;
+                                 // Large blocks always come fresh from the system here, so no variant finds pages that
+                                 // an earlier one left behind (glibc otherwise raises its mmap threshold after the
+                                 // first large free).
+                                 mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+                                 for (auto _ : state) {
+                                   // Twice, keeping the second: the process's first large decode on a new thread
+                                   // touches more pages (arena and page tables) than any later one, whichever variant
+                                   // it is.
+                                   for (int run = 0; run < 2; ++run)
+                                     std::thread([&] {
+                                       memory::resetResidentPeak();
+                                       residentBefore = memory::resident();
+                                       memory::start();
+                                       {
+                                         auto result = decode(reply.json);
+                                         during = memory::usage();
+                                         residentPeak = memory::residentPeak();
+                                       }
+                                       atRest = memory::usage();
+                                       // What stays allocated once the thread has decoded a small reply after the large
+                                       // one.
+                                       benchmark::DoNotOptimize(decode(small.json));
+                                       after = memory::usage();
+                                       memory::stop();
+                                     }).join();
+                                 }
+                                 const auto size = static_cast<double>(reply.json.size());
+                                 state.counters["peak_x"] = static_cast<double>(during.peak) / size;
+                                 state.counters["result_x"] = static_cast<double>(during.now - atRest.now) / size;
+                                 state.counters["kept_x"] = static_cast<double>(after.now) / size;
+                                 state.counters["resident_peak_x"] =
+                                     static_cast<double>(residentPeak - residentBefore) / size;
+                                 state.counters["bytes"] = size;
+                               })
+      ->Iterations(1)
+      ->Repetitions(1)
+      ->Unit(benchmark::kMillisecond);
 }
 
 template <class T, class Message>
@@ -255,18 +269,20 @@ void registerMemoryAll(const Reply& reply, const Reply& small) {
 // What the benchmarks do with each shape of reply: a domain adds its shapes here.
 struct Shape {
   std::string_view name;
-  // `smallest` is the smallest reply of the same shape when `reply` is the corpus's largest, else null.
-  void (*registerAll)(const Reply& reply, const Reply* smallest);
+  void (*registerTimed)(const Reply& reply);
+  // The memory figures of `reply`, with `small` (the smallest reply of its shape) as the reply after it.
+  void (*registerMemory)(const Reply& reply, const Reply& small);
 };
 
 template <class T, class Message, auto count, auto expected>
 Shape shape(std::string_view name) {
-  return {name, [](const Reply& reply, const Reply* smallest) {
+  return {name,
+          [](const Reply& reply) {
             registerTyped<T>(reply);
             registerDictionary<T, Message>(reply, count, expected);
             if (reply.large) registerEncoding<T>(reply);
-            if (smallest) registerMemoryAll<T, Message>(reply, *smallest);
-          }};
+          },
+          registerMemoryAll<T, Message>};
 }
 
 std::size_t faqCount(const QBUserGetFaqMessage& m) { return m.faqs() ? m.faqs()->size() : 0; }
@@ -284,8 +300,12 @@ std::size_t cmsNameRecords(const CmsGetCmsNameResponse& r) {
   return (r.cmsName.tags ? r.cmsName.tags->size() : 0) + (r.cmsName.layouts ? r.cmsName.layouts->size() : 0) +
          r.cmsName.matchedSimilarImages.size();
 }
-std::size_t cmsNameListCount(const QBCmsGetCmsNameListMessage& m) { return m.cmsNameList() ? m.cmsNameList()->size() : 0; }
+std::size_t cmsNameListCount(const QBCmsGetCmsNameListMessage& m) {
+  return m.cmsNameList() ? m.cmsNameList()->size() : 0;
+}
 std::size_t cmsNameListRecords(const CmsGetCmsNameListResponse& r) { return r.cmsNameList.size(); }
+std::size_t itemCount(const QBItemListMyCollectionsMessage& m) { return m.items() ? m.items()->size() : 0; }
+std::size_t itemRecords(const ItemListMyCollectionsResponse& r) { return r.items.size(); }
 std::size_t configCount(const QBUserGetConfigMessage& m) { return m.config() ? 1 : 0; }
 std::size_t initialiseCount(const QBUserInitialiseMessage& m) { return m.config() && m.user() ? 1 : 0; }
 template <class T>
@@ -301,26 +321,37 @@ const Shape kShapes[] = {
     shape<CmsGetCmsNameResponse, QBCmsGetCmsNameMessage, cmsNameCount, cmsNameRecords>("get_cms_name"),
     shape<CmsGetCmsNameListResponse, QBCmsGetCmsNameListMessage, cmsNameListCount, cmsNameListRecords>(
         "get_cms_name_list"),
+    shape<ItemListMyCollectionsResponse, QBItemListMyCollectionsMessage, itemCount, itemRecords>("list_my_collections"),
 };
 
+const Shape& shapeOf(const Reply& reply) {
+  for (const Shape& shape : kShapes) {
+    if (shape.name == reply.shape) return shape;
+  }
+  throw std::logic_error("no benchmarks for replies of shape " + reply.shape);
+}
+
 void registerAll() {
-  const Reply* largest = nullptr;
+  // Every reply is timed but those generated for the memory figures alone.
+  const Reply* largestTimed = nullptr;
   for (const Reply& reply : corpus()) {
-    if (!largest || reply.json.size() > largest->json.size()) largest = &reply;
+    if (reply.memoryOnly) continue;
+    shapeOf(reply).registerTimed(reply);
+    if (!largestTimed || reply.json.size() > largestTimed->json.size()) largestTimed = &reply;
   }
-  const Reply* smallest = largest;
-  for (const Reply& reply : corpus()) {
-    if (reply.shape == largest->shape && reply.json.size() < smallest->json.size()) smallest = &reply;
-  }
-  for (const Reply& reply : corpus()) {
-    bool known = false;
-    for (const Shape& shape : kShapes) {
-      if (shape.name != reply.shape) continue;
-      shape.registerAll(reply, &reply == largest ? smallest : nullptr);
-      known = true;
+  // Memory: the replies generated for it (the headline figure), then the largest timed reply. They come
+  // after every timed benchmark because they fix glibc's mmap threshold for the rest of the process.
+  auto addMemory = [](const Reply& reply) {
+    const Reply* small = &reply;
+    for (const Reply& other : corpus()) {
+      if (other.shape == reply.shape && other.json.size() < small->json.size()) small = &other;
     }
-    if (!known) throw std::logic_error("no benchmarks for replies of shape " + reply.shape);
+    shapeOf(reply).registerMemory(reply, *small);
+  };
+  for (const Reply& reply : corpus()) {
+    if (reply.memoryOnly) addMemory(reply);
   }
+  if (largestTimed) addMemory(*largestTimed);
 }
 
 // --dump-corpus=DIR writes every reply to DIR/<name>.json, for profilers and other tools.
@@ -377,7 +408,7 @@ void printSplit(const char* variant, const Reply& reply, Decode decode) {
     bestDecode = std::min(bestDecode, std::chrono::duration<double, std::milli>(decoded - start).count());
     bestDestroy = std::min(bestDestroy, std::chrono::duration<double, std::milli>(destroyed - decoded).count());
   }
-  std::printf("%-12s %-21s decode %7.3f ms  destroy %7.3f ms\n", variant, reply.name.c_str(), bestDecode, bestDestroy);
+  std::printf("%-12s %-25s decode %7.3f ms  destroy %7.3f ms\n", variant, reply.name.c_str(), bestDecode, bestDestroy);
 }
 
 template <class T>
@@ -395,6 +426,7 @@ bool split(int argc, char** argv) {
     if (reply.name == "user_list/20000") printSplits<UserList>(reply);
     if (reply.shape == "get_cms_name") printSplits<CmsGetCmsNameResponse>(reply);
     if (reply.shape == "get_cms_name_list") printSplits<CmsGetCmsNameListResponse>(reply);
+    if (reply.name == "list_my_collections/10000") printSplits<ItemListMyCollectionsResponse>(reply);
   }
   return true;
 }

@@ -9,7 +9,7 @@ const std::vector<Reply>& corpus() {
   static const std::vector<Reply> replies = [] {
     std::vector<Reply> all;
     // Each domain adds its generator to this list.
-    for (auto generate : {userReplies, cmsReplies}) {
+    for (auto generate : {userReplies, cmsReplies, itemReplies}) {
       for (Reply& r : generate()) all.push_back(std::move(r));
     }
     return all;
@@ -66,17 +66,16 @@ JsonText& JsonText::literal(std::string_view token) {
 
 std::string text(Rng& rng, int minWords, int maxWords) {
   static constexpr std::array<std::string_view, 48> kWords = {
-      "leaf",   "water",  "soil",    "light",   "root",     "stem",    "flower",  "repot",  "drainage",
-      "humid",  "indoor", "bright",  "shade",   "weekly",   "prune",   "fungus",  "spots",  "yellow",
-      "brown",  "tips",   "the",     "and",     "your",     "plant",   "should",  "after",  "before",
-      "winter", "summer", "cutting", "seed",    "fertile",  "account", "premium", "refund", "scan",
-      "photo",  "result", "species", "sync",    "restore",  "cloud",   "offline", "device", "reset",
-      "email",  "code",   "expires"};
+      "leaf",    "water",   "soil",    "light",   "root",   "stem",   "flower", "repot",  "drainage", "humid",
+      "indoor",  "bright",  "shade",   "weekly",  "prune",  "fungus", "spots",  "yellow", "brown",    "tips",
+      "the",     "and",     "your",    "plant",   "should", "after",  "before", "winter", "summer",   "cutting",
+      "seed",    "fertile", "account", "premium", "refund", "scan",   "photo",  "result", "species",  "sync",
+      "restore", "cloud",   "offline", "device",  "reset",  "email",  "code",   "expires"};
   static constexpr std::array<std::string_view, 10> kForeign = {
       "Blattläuse", "naïve", "Rosé", "Gießkanne", "кактус", "полив", "多肉植物", "水やり", "수국", "🌱🌵"};
-  static constexpr std::array<std::string_view, 7> kEscapes = {
-      R"(\"quoted\")", R"(back\\slash)", R"(line\nbreak)", R"(tab\tstop)", R"(a\/b)", R"(caf\u00e9)",
-      R"(\ud83c\udf3f)"};
+  static constexpr std::array<std::string_view, 7> kEscapes = {R"(\"quoted\")",  R"(back\\slash)", R"(line\nbreak)",
+                                                               R"(tab\tstop)",   R"(a\/b)",        R"(caf\u00e9)",
+                                                               R"(\ud83c\udf3f)"};
   std::string out;
   const auto count = rng.between(minWords, maxWords);
   for (std::int64_t i = 0; i < count; ++i) {

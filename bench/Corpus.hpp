@@ -17,6 +17,8 @@ struct Reply {
   std::string name;    // shape and size, e.g. "get_faq/100000"
   bool large = false;  // one of the collection-sized replies the headline ratios are taken from
   std::string json;
+  // Too large to time in every run: only its peak memory is measured (the headline memory figure).
+  bool memoryOnly = false;
 };
 
 // Every reply of the corpus, generated on first use.
@@ -73,5 +75,6 @@ std::string text(Rng& rng, int minWords, int maxWords);
 // The generators of each domain.
 std::vector<Reply> userReplies();
 std::vector<Reply> cmsReplies();
+std::vector<Reply> itemReplies();
 
 }  // namespace qb::bench

@@ -1,14 +1,14 @@
-// The records the benchmarks decode and encode, in both faces: the library's own (accounts and the
-// content catalogue), plus `UserList` and `QBBenchUserListMessage`, which exist only here to give the
-// user record a collection-shaped reply.
+// The records the benchmarks decode and encode, in both faces: the library's own (accounts, the content
+// catalogue and the item collection), plus `UserList` and `QBBenchUserListMessage`, which exist only
+// here to give the user record a collection-shaped reply.
 #pragma once
-
-#include <vector>
 
 #include <QBComponentAPI/cms/dict/CmsDict.hpp>
 #include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 #include <QBComponentAPI/frame/DictModel.hpp>
 #include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/item/dict/ItemDict.hpp>
+#include <QBComponentAPI/item/typed/ItemTyped.hpp>
 #include <QBComponentAPI/user/UserCatalogue.hpp>
 #include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
 #include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
@@ -21,6 +21,7 @@
 #include <QBComponentAPI/user/typed/UserGetFaqResponse.hpp>
 #include <QBComponentAPI/user/typed/UserInitialiseResponse.hpp>
 #include <QBComponentAPI/user/typed/UserModel.hpp>
+#include <vector>
 
 namespace qb::bench {
 
@@ -41,14 +42,18 @@ using qb::CopyrightModel;
 using qb::DiagnoseDetectModel;
 using qb::DiagnoseDetectRegionModel;
 using qb::FaqModel;
+using qb::ItemImageModel;
+using qb::ItemListMyCollectionsResponse;
 using qb::LegalConfigModel;
 using qb::QBCmsGetCmsNameListMessage;
 using qb::QBCmsGetCmsNameMessage;
+using qb::QBItemListMyCollectionsMessage;
 using qb::QBUserGetConfigMessage;
 using qb::QBUserGetFaqMessage;
 using qb::QBUserInitialiseMessage;
 using qb::SimpleCmsDiseaseModel;
 using qb::SimpleCmsNameModel;
+using qb::SimpleItemModel;
 using qb::TaxonomyNameModel;
 using qb::UserAdditionalDataModel;
 using qb::UserGetConfigResponse;

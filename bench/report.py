@@ -82,9 +82,9 @@ def geomean(values):
 def main():
     context, times, sizes, counters, errors = load(sys.argv[1])
     # The replies the corpus marks large (the "large" counter); results written before the counter
-    # existed fall back to the replies of a megabyte and more.
-    large = {reply for (_, _, reply), b in counters.items()
-             if b.get("large", 1 if b.get("bytes", 0) >= 1_000_000 else 0) >= 1}
+    # existed fall back to the replies of a megabyte and more. The memory runs carry no such counter.
+    large = {reply for (g, _, reply), b in counters.items()
+             if g != "memory" and b.get("large", 1 if b.get("bytes", 0) >= 1_000_000 else 0) >= 1}
     out = []
 
     def throughput_rows(group, variants, base, peers):
@@ -118,14 +118,16 @@ def main():
     out.append(table("Encoding: qb::JSONEncoder vs Boost.JSON serialize vs nlohmann dump (MB/s of output); ratios qb / peer",
                      ["reply"] + ENCODE + ["vs boost", "vs nlohmann"],
                      throughput_rows("encode", ENCODE, "qb", ["boost", "nlohmann"])))
-    rows = []
-    for (g, v, reply), b in counters.items():
-        if g == "memory":
-            rows.append([f"{v} ({reply}, {b['bytes'] / 1e6:.1f} MB)", fmt(b.get("peak_x")),
-                         fmt(b.get("resident_peak_x")), fmt(b.get("result_x")), fmt(b.get("kept_x"))])
-    rows.sort(key=lambda r: MEMORY.index(r[0].split(" ")[0]) if r[0].split(" ")[0] in MEMORY else 99)
-    out.append(table("Memory of one decode of the largest reply, in multiples of its size: allocated (operator new) "
-                     "and resident peak while decoding, held by the result, still allocated for the thread after its next (small) reply",
+    memory = [(reply, v, b) for (g, v, reply), b in counters.items() if g == "memory"]
+    # The largest reply first: it is generated for this table alone and gives the headline figure.
+    by_size = sorted({(b.get("bytes", 0), reply) for reply, _, b in memory}, reverse=True)
+    place = {reply: i for i, (_, reply) in enumerate(by_size)}
+    memory.sort(key=lambda m: (place[m[0]], MEMORY.index(m[1]) if m[1] in MEMORY else 99))
+    rows = [[f"{v} ({reply}, {b['bytes'] / 1e6:.1f} MB)", fmt(b.get("peak_x")), fmt(b.get("resident_peak_x")),
+             fmt(b.get("result_x")), fmt(b.get("kept_x"))] for reply, v, b in memory]
+    out.append(table("Memory of one decode, in multiples of the reply's size (the largest reply first, then the "
+                     "largest timed one): allocated (operator new) and resident peak while decoding, held by the "
+                     "result, still allocated for the thread after its next (small) reply",
                      ["variant", "allocated peak", "resident peak", "result", "kept by the thread"], rows))
 
     def headline(group, ours, theirs):

@@ -245,6 +245,31 @@ struct DomReader {
   static void read(const V& v, CmsGetCmsNameResponse& out) { member(v, "cms_name", out.cmsName); }
   static void read(const V& v, CmsGetCmsNameListResponse& out) { member(v, "cms_name_list", out.cmsNameList); }
 
+  // The item collection.
+  static void read(const V& v, ItemImageModel& out) {
+    member(v, "icon_url", out.iconUrl);
+    member(v, "thumbnail_url", out.thumbnailUrl);
+    member(v, "image_url", out.imageUrl);
+    member(v, "original_url", out.originalUrl);
+    member(v, "signature_image_url", out.signatureImageUrl);
+  }
+  static void read(const V& v, SimpleItemModel& out) {
+    member(v, "item_id", out.itemId);
+    member(v, "item_image", out.itemImage);
+    member(v, "shoot_at", out.shootAt);
+    member(v, "name", out.name);
+    member(v, "cms_name_uid", out.cmsNameUid);
+    member(v, "disease_uid", out.diseaseUid);
+    member(v, "latin_name", out.latinName);
+    member(v, "custom_name", out.customName);
+    member(v, "custom_note", out.customNote);
+    member(v, "properties", out.properties);
+    member(v, "cms_cache_business_fields", out.cmsCacheBusinessFields);
+    member(v, "lng", out.lng);
+    member(v, "lat", out.lat);
+  }
+  static void read(const V& v, ItemListMyCollectionsResponse& out) { member(v, "items", out.items); }
+
   template <class T>
   static T decode(const V& root) {
     T out{};

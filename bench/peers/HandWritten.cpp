@@ -137,6 +137,8 @@ void read(value v, DiagnoseDetectRegionModel& out);
 void read(value v, DiagnoseDetectModel& out);
 void read(value v, CmsDiseaseModel& out);
 void read(value v, CmsNameModel& out);
+void read(value v, ItemImageModel& out);
+void read(value v, SimpleItemModel& out);
 
 template <class T>
 void read(value v, std::vector<T>& out);
@@ -661,6 +663,68 @@ void read(value v, CmsGetCmsNameListResponse& out) {
     if (f.key() == "cms_name_list") read(f.value(), out.cmsNameList), seen |= 1;
   }
   if (seen != 1) fail("GetCmsNameList: missing member");
+}
+
+// --- Item collection ----------------------------------------------------------------------------------
+
+void read(value v, ItemImageModel& out) {
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "icon_url") {
+      read(f.value(), out.iconUrl);
+    } else if (key == "thumbnail_url") {
+      read(f.value(), out.thumbnailUrl);
+    } else if (key == "image_url") {
+      read(f.value(), out.imageUrl);
+    } else if (key == "original_url") {
+      read(f.value(), out.originalUrl);
+    } else if (key == "signature_image_url") {
+      read(f.value(), out.signatureImageUrl);
+    }
+  }
+}
+
+void read(value v, SimpleItemModel& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    const auto key = f.key();
+    if (key == "item_id") {
+      read(f.value(), out.itemId), seen |= 1;
+    } else if (key == "item_image") {
+      read(f.value(), out.itemImage), seen |= 2;
+    } else if (key == "shoot_at") {
+      read(f.value(), out.shootAt), seen |= 4;
+    } else if (key == "name") {
+      read(f.value(), out.name), seen |= 8;
+    } else if (key == "cms_name_uid") {
+      read(f.value(), out.cmsNameUid);
+    } else if (key == "disease_uid") {
+      read(f.value(), out.diseaseUid);
+    } else if (key == "latin_name") {
+      read(f.value(), out.latinName);
+    } else if (key == "custom_name") {
+      read(f.value(), out.customName);
+    } else if (key == "custom_note") {
+      read(f.value(), out.customNote);
+    } else if (key == "properties") {
+      read(f.value(), out.properties);
+    } else if (key == "cms_cache_business_fields") {
+      read(f.value(), out.cmsCacheBusinessFields);
+    } else if (key == "lng") {
+      read(f.value(), out.lng);
+    } else if (key == "lat") {
+      read(f.value(), out.lat);
+    }
+  }
+  if (seen != 15) fail("SimpleItem: missing member");
+}
+
+void read(value v, ItemListMyCollectionsResponse& out) {
+  unsigned seen = 0;
+  for (field f : v.get_object()) {
+    if (f.key() == "items") read(f.value(), out.items), seen |= 1;
+  }
+  if (seen != 1) fail("ListMyCollections: missing member");
 }
 
 template <class T>

@@ -3,12 +3,11 @@
 // that does not fit the record.
 #pragma once
 
+#include <boost/json/storage_ptr.hpp>
 #include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-
-#include <boost/json/storage_ptr.hpp>
 
 #include "Records.hpp"
 
@@ -59,12 +58,13 @@ class NlohmannWriter {
 };
 
 // Instantiates a peer's decode function for every reply record of the benchmark.
-#define QB_BENCH_PEER_DECODERS(function)                                                      \
-  template UserGetFaqResponse function<UserGetFaqResponse>(std::string_view);                 \
-  template UserList function<UserList>(std::string_view);                                     \
-  template UserGetConfigResponse function<UserGetConfigResponse>(std::string_view);           \
-  template UserInitialiseResponse function<UserInitialiseResponse>(std::string_view);         \
-  template CmsGetCmsNameResponse function<CmsGetCmsNameResponse>(std::string_view);           \
-  template CmsGetCmsNameListResponse function<CmsGetCmsNameListResponse>(std::string_view);
+#define QB_BENCH_PEER_DECODERS(function)                                                    \
+  template UserGetFaqResponse function<UserGetFaqResponse>(std::string_view);               \
+  template UserList function<UserList>(std::string_view);                                   \
+  template UserGetConfigResponse function<UserGetConfigResponse>(std::string_view);         \
+  template UserInitialiseResponse function<UserInitialiseResponse>(std::string_view);       \
+  template CmsGetCmsNameResponse function<CmsGetCmsNameResponse>(std::string_view);         \
+  template CmsGetCmsNameListResponse function<CmsGetCmsNameListResponse>(std::string_view); \
+  template ItemListMyCollectionsResponse function<ItemListMyCollectionsResponse>(std::string_view);
 
 }  // namespace qb::bench::peers
