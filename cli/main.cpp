@@ -1,15 +1,16 @@
 // qbapi: calls any endpoint by name, lists them, and runs a scripted session against the mock service.
 #include <CLI/CLI.hpp>
-#include <fstream>
-#include <iostream>
-#include <iterator>
-
-#include "cli/Registry.hpp"
-#include "mock/Service.hpp"
 #include <QBComponentAPI/host/Collection.hpp>
 #include <QBComponentAPI/item/typed/ItemTyped.hpp>
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "cli/KeptMock.hpp"
+#include "cli/Registry.hpp"
+#include "mock/Service.hpp"
 
 namespace {
 
@@ -66,7 +67,8 @@ std::pair<Exit, std::string> describeFailure(const qb::Error& error) {
     return {kCheck, std::string("the reply has a value of the wrong kind: ") + error.what()};
   }
   if (dynamic_cast<const qb::host::InsecureUrlError*>(&error)) {
-    return {kTransport, std::string(error.what()) + " (for a service on a loopback address, pass --allow-insecure-loopback)"};
+    return {kTransport,
+            std::string(error.what()) + " (for a service on a loopback address, pass --allow-insecure-loopback)"};
   }
   if (dynamic_cast<const qb::host::AuthRequiredError*>(&error)) {
     return {kAuth, std::string(error.what()) + " (pass --token)"};
@@ -83,25 +85,35 @@ std::pair<Exit, std::string> describeFailure(const qb::Error& error) {
   return {kTransport, error.what()};
 }
 
-// Runs `body` against the given base URL, or against an in-process mock service when there is none, and
-// maps every failure to its exit code.
+// Runs `body` against the given base URL; without one, against the mock kept by `qbapi mock start` (with
+// its session) when `mayUseKept` and one is running, else against an in-process mock service. Maps every
+// failure to its exit code.
 // Plain http is refused unless `insecureLoopback` is set (and the host is a loopback address); the
 // in-process mock service always implies it.
 int withClient(const std::string& baseUrl, const std::optional<std::string>& token,
                const std::optional<std::string>& envelope, bool insecureLoopback,
-               const std::function<void(qb::host::Client&)>& body) {
+               const std::function<void(qb::host::Client&)>& body, bool mayUseKept = true) {
   std::optional<qb::mock::Service> mock;
+  std::optional<qb::cli::KeptMock> kept;
   qb::host::ClientOptions options{.baseUrl = baseUrl, .envelopeKey = envelope};
   options.allowInsecureLoopback = insecureLoopback;
   try {
-    if (baseUrl.empty()) {
+    if (baseUrl.empty() && mayUseKept) kept = qb::cli::findKeptMock();
+    if (kept) {
+      options.baseUrl = kept->baseUrl;
+      options.allowInsecureLoopback = true;
+    } else if (baseUrl.empty()) {
       mock.emplace();
       mock->start(0);
       options.baseUrl = mock->baseUrl();
       options.allowInsecureLoopback = true;
     }
     qb::host::Client client(options);
-    if (token) client.setAccessToken(*token);
+    if (token) {
+      client.setAccessToken(*token);
+    } else if (kept) {
+      client.setAccessToken(kept->token);
+    }
     body(client);
     return kOk;
   } catch (const qb::Error& e) {
@@ -135,7 +147,9 @@ void describeEndpoint(const qb::cli::Entry& entry) {
   const qb::cli::Description d = entry.describe();
   std::printf("%s  %s, session %s\n\n", std::string(entry.endpoint->path).c_str(),
               std::string(entry.endpoint->upperVerb()).c_str(),
-              entry.endpoint->mustAuth() ? "required" : entry.endpoint->needAuth() ? "used when given" : "not used");
+              entry.endpoint->mustAuth()   ? "required"
+              : entry.endpoint->needAuth() ? "used when given"
+                                           : "not used");
   std::printf("%-28s %-8s %-12s %-12s\n", "parameter", "type", "dictionary", "typed");
   for (const auto& p : d.parameters) {
     std::printf("%-28s %-8s %-12s %-12s\n", p.key.c_str(), p.type.c_str(),
@@ -256,6 +270,15 @@ int main(int argc, char** argv) {
                    "key=value pairs; values are JSON when they parse, text otherwise; key=@file uploads");
   call->add_option("--face", face, "dict or typed")->check(CLI::IsMember({"dict", "typed"}));
   addConnection(call);
+  CLI::App* mockCmd = app.add_subcommand(
+      "mock", "keep a mock service running between calls: calls without --base-url then use it and its session");
+  mockCmd->require_subcommand(1);
+  int mockPort = 0;
+  mockCmd->add_subcommand("start", "start it in the background and print its URL")
+      ->add_option("--port", mockPort, "0 picks a free one")
+      ->check(CLI::Range(0, 65535));
+  mockCmd->add_subcommand("stop", "stop it");
+  mockCmd->add_subcommand("status", "print its URL and state file, or say that none is running");
   CLI::App* demoCmd =
       app.add_subcommand("demo", "a scripted session against the built-in mock service (never a real one)");
   addConnection(demoCmd);
@@ -284,9 +307,27 @@ int main(int argc, char** argv) {
     describeEndpoint(*entry);
     return kOk;
   }
+  if (app.got_subcommand("mock")) {
+    try {
+      if (mockCmd->got_subcommand("start")) {
+        std::cout << qb::cli::startKeptMock(mockPort).baseUrl << "\n";
+      } else if (mockCmd->got_subcommand("stop")) {
+        if (!qb::cli::stopKeptMock()) std::cout << "no mock service was running\n";
+      } else if (const auto kept = qb::cli::findKeptMock()) {
+        std::cout << kept->baseUrl << " (pid " << kept->pid << ", state in " << qb::cli::keptMockStatePath() << ")\n";
+      } else {
+        std::cout << "no mock service is running\n";
+        return kTransport;
+      }
+      return kOk;
+    } catch (const qb::Error& e) {
+      std::cerr << e.what() << "\n";
+      return kTransport;
+    }
+  }
   if (app.got_subcommand("collection")) {
     return withClient(baseUrl, token, envelope, insecureLoopback, [&](qb::host::Client& client) {
-      if (baseUrl.empty() && !token) {
+      if (baseUrl.empty() && !client.hasAccessToken()) {
         auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
         client.send(*init);
         client.setAccessToken(std::string(init->accessToken()->as_string()));
@@ -309,7 +350,7 @@ int main(int argc, char** argv) {
                    "it uses, so --base-url and --token are refused (use qbapi call for a real service)\n";
       return kUsage;
     }
-    return withClient(baseUrl, token, envelope, insecureLoopback, demo);
+    return withClient(baseUrl, token, envelope, insecureLoopback, demo, /*mayUseKept=*/false);
   }
 
   const qb::cli::Entry* entry = qb::cli::findEntry(name);
@@ -335,7 +376,7 @@ int main(int argc, char** argv) {
   }
   return withClient(baseUrl, token, envelope, insecureLoopback, [&](qb::host::Client& client) {
     // Without a service of its own the tool opens a session on the mock first, so that calls needing one work.
-    if (baseUrl.empty() && !token && entry->endpoint->needAuth()) {
+    if (baseUrl.empty() && !client.hasAccessToken() && entry->endpoint->needAuth()) {
       auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
       client.send(*init);
       client.setAccessToken(std::string(init->accessToken()->as_string()));
