@@ -1,6 +1,7 @@
 #include "mock/Service.hpp"
 
 #include <httplib.h>
+#include <sys/socket.h>
 
 #include <QBComponentAPI/QBComponentAPI.hpp>
 #include <QBComponentAPI/frame/Errors.hpp>
@@ -8,7 +9,9 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <exception>
 #include <functional>
+#include <iostream>
 #include <map>
 #include <mutex>
 #include <random>
@@ -105,27 +108,65 @@ std::vector<std::string_view> requiredParameters() {
   }
 }
 
+// The random engine behind tokens and codes: from `seed` when given, else from the system's entropy.
+std::mt19937_64 randomEngine(std::optional<std::uint64_t> seed) {
+  if (seed) return std::mt19937_64(*seed);
+  std::random_device device;
+  std::seed_seq entropy{device(), device(), device(), device(), device(), device(), device(), device()};
+  return std::mt19937_64(entropy);
+}
+
+// The error answered for a status that no handler gave a body: httplib's own refusals (an unreadable
+// request, a body over the limit, an exception) and requests that match no route.
+JsonMap errorBody(int status) {
+  switch (status) {
+    case 400: return JsonMap{{"error", "bad_request"}, {"message", "the request could not be read"}};
+    case 404: return JsonMap{{"error", "not_found"}, {"message", "no such endpoint"}};
+    case 405: return JsonMap{{"error", "method_not_allowed"}, {"message", "this endpoint does not answer this method"}};
+    case 413:
+      return JsonMap{{"error", "payload_too_large"},
+                     {"message", "the request body is over " + std::to_string(Service::kMaxBodyBytes) + " bytes"}};
+    case 414: return JsonMap{{"error", "uri_too_long"}, {"message", "the request target is too long"}};
+    case 416: return JsonMap{{"error", "range_not_satisfiable"}, {"message", "the requested range is not available"}};
+    case 500: return JsonMap{{"error", "internal_error"}, {"message", "the service failed while answering"}};
+    default:
+      return JsonMap{{"error", status < 500 ? "bad_request" : "internal_error"},
+                     {"message", "HTTP status " + std::to_string(status)}};
+  }
+}
+
+// httplib listens with a backlog of 5, so that a burst of connections (a few stalled clients and the
+// next request) leaves some waiting a second or more for the handshake to be retried. Listening again on
+// the bound socket widens it.
+class Server : public httplib::Server {
+ public:
+  void widenBacklog() { ::listen(svr_sock_.load(), SOMAXCONN); }
+};
+
 }  // namespace
 
 struct Service::State {
-  httplib::Server server;
+  explicit State(std::optional<std::uint64_t> seed) : random(randomEngine(seed)) {}
+
+  Server server;
   std::thread thread;
   int port = 0;
   std::atomic<std::uint64_t> requests{0};
 
   std::mutex mutex;
-  std::map<std::int64_t, JsonMap> users;           // user id -> user record
-  std::map<std::int64_t, JsonMap> additional;      // user id -> additional data
-  std::map<std::string, std::int64_t> tokens;      // access token -> user id
-  std::map<std::string, std::int64_t> logins;      // "<login_type>:<login_key>" -> user id
-  std::map<std::string, std::string> passwords;    // login key -> password
-  std::map<std::string, std::string> verifyCodes;  // e-mail -> code
-  std::map<std::int64_t, Upload> avatars;          // user id -> uploaded avatar
-  std::map<std::int64_t, JsonMap> vipInfos;        // user id -> subscription summary, once changed
+  std::map<std::int64_t, JsonMap> users;            // user id -> user record
+  std::map<std::int64_t, JsonMap> additional;       // user id -> additional data
+  std::map<std::string, std::int64_t> tokens;       // access token -> user id
+  std::map<std::string, std::int64_t> logins;       // "<login_type>:<login_key>" -> user id
+  std::map<std::string, std::string> passwords;     // login key -> password
+  std::map<std::string, std::string> verifyCodes;   // e-mail -> code
+  std::map<std::int64_t, Upload> avatars;           // user id -> uploaded avatar
+  std::map<std::int64_t, JsonMap> vipInfos;         // user id -> subscription summary, once changed
   std::map<std::int64_t, JsonList> trialReminders;  // user id -> reminders asked for
   Extras extras;                                    // the domains' /_mock/ routes and deletion hooks
-  std::int64_t nextUserId = 9007199254740993;      // above 2^53, as real ids may be
-  std::mt19937_64 random{20261122};
+  std::int64_t nextUserId = 9007199254740993;       // above 2^53, as real ids may be
+  std::mt19937_64 random;
+  std::map<std::string, std::string> verbs;  // "/<endpoint path>" -> its verb, for the Allow header of a 405
 
   std::string newToken() { return "tok-" + std::to_string(random()); }
 
@@ -197,8 +238,12 @@ struct Service::State {
   JsonMap& vipInfo(std::int64_t id) {
     auto [found, fresh] = vipInfos.try_emplace(id);
     if (fresh) {
-      found->second = JsonMap{{"user_id", id},         {"is_vip", false},        {"is_trial", false},
-                              {"is_auto_renew", false}, {"is_vip_in_history", false}, {"is_paid_in_history", false},
+      found->second = JsonMap{{"user_id", id},
+                              {"is_vip", false},
+                              {"is_trial", false},
+                              {"is_auto_renew", false},
+                              {"is_vip_in_history", false},
+                              {"is_paid_in_history", false},
                               {"vip_level", 0}};
     }
     return found->second;
@@ -316,7 +361,10 @@ struct Service::State {
          [](Call&) {
            return JsonMap{{"config", clientConfig()}, {"other_configs", JsonMap{{"feature_x", true}}}};
          }},
-        {vip::kVipCard.path, [this](Call& call) { return JsonMap{{"vip_info", vipInfo(*call.userId)}}; }},
+        {vip::kVipCard.path,
+         [this](Call& call) {
+           return JsonMap{{"vip_info", vipInfo(*call.userId)}};
+         }},
         {vip::kRemindUserToAttentionTrial.path,
          [this](Call& call) {
            trialReminders[*call.userId].push_back(call.params);
@@ -341,23 +389,65 @@ struct Service::State {
     res.set_content(toJson(body), "application/json");
   }
 
-  Call parse(const httplib::Request& req) {
+  // A request's body as read by readBody: its bytes, or its parts when it is a multipart form.
+  struct Body {
+    std::string data;
+    httplib::MultipartFormDataItems parts;
+  };
+
+  // Reads a request's body, up to kMaxBodyBytes whatever its framing: httplib caps only a declared
+  // Content-Length (skipping the body), so a chunked body is counted here. Reading it here also spares a
+  // form body httplib's own 8 KiB limit. False, with the error answered, when the body cannot be read or
+  // is too long.
+  static bool readBody(const httplib::Request& req, httplib::Response& res, const httplib::ContentReader& reader,
+                       Body& body) {
+    std::size_t total = 0;
+    auto fits = [&total](std::size_t n) {
+      total += n;
+      return total <= kMaxBodyBytes;
+    };
+    bool read = false;
+    if (req.is_multipart_form_data()) {
+      read = reader(
+          [&](const httplib::MultipartFormData& part) {
+            body.parts.push_back(part);
+            return true;
+          },
+          [&](const char* data, std::size_t n) {
+            if (!fits(n) || body.parts.empty()) return false;
+            body.parts.back().content.append(data, n);
+            return true;
+          });
+    } else {
+      read = reader([&](const char* data, std::size_t n) {
+        if (!fits(n)) return false;
+        body.data.append(data, n);
+        return true;
+      });
+    }
+    if (read) return true;
+    const int status = total > kMaxBodyBytes || res.status == 413 ? 413 : 400;
+    answer(res, status, errorBody(status));
+    return false;
+  }
+
+  Call parse(const httplib::Request& req, const Body& body) {
     Call call;
     for (const auto& [key, value] : req.params) call.params[key] = parameterValue(value);
     const std::string type = req.get_header_value("Content-Type");
     if (req.is_multipart_form_data()) {
-      for (const auto& [name, file] : req.files) {
+      for (const auto& file : body.parts) {
+        const std::string& name = file.name;
         if (file.filename.empty()) {
           call.params[name] = parameterValue(file.content);
         } else {
           call.files[name] = Upload{file.content_type, file.content};
         }
       }
-    } else if (type.starts_with("application/json") && !req.body.empty()) {
-      const JsonMap body = parseJsonMap(req.body);
-      for (const auto& member : body) call.params[member.key()] = member.value();
+    } else if (type.starts_with("application/json") && !body.data.empty()) {
+      for (const auto& member : parseJsonMap(body.data)) call.params[member.key()] = member.value();
     } else if (type.starts_with("application/x-www-form-urlencoded")) {
-      std::string_view rest = req.body;
+      std::string_view rest = body.data;
       while (!rest.empty()) {
         const std::string_view pair = rest.substr(0, rest.find('&'));
         rest = pair.size() < rest.size() ? rest.substr(pair.size() + 1) : std::string_view{};
@@ -386,16 +476,15 @@ struct Service::State {
       if constexpr (!std::is_same_v<A, B>) {
         if (B::endpoint.path != endpoint.path) return;
         const auto other = requiredParameters<B>();
-        std::erase_if(required, [&](std::string_view key) {
-          return std::find(other.begin(), other.end(), key) == other.end();
-        });
+        std::erase_if(required,
+                      [&](std::string_view key) { return std::find(other.begin(), other.end(), key) == other.end(); });
       }
     });
-    auto handle = [this, handler = std::move(handler), required = std::move(required)](const httplib::Request& req,
-                                                                                        httplib::Response& res) {
+    auto handle = [this, handler = std::move(handler), required = std::move(required)](
+                      const httplib::Request& req, const Body& body, httplib::Response& res) {
       ++requests;
       try {
-        Call call = parse(req);
+        Call call = parse(req, body);
         std::lock_guard lock(mutex);
         if (!call.token.empty()) {
           const auto token = tokens.find(call.token);
@@ -417,10 +506,16 @@ struct Service::State {
       }
     };
     const std::string path = "/" + std::string(endpoint.path);
+    verbs[path] = endpoint.verb == HttpVerb::get ? "GET, HEAD" : "POST";
     if (endpoint.verb == HttpVerb::get) {
-      server.Get(path, std::move(handle));
+      server.Get(path, [handle = std::move(handle)](const httplib::Request& req, httplib::Response& res) {
+        handle(req, Body{}, res);
+      });
     } else {
-      server.Post(path, std::move(handle));
+      server.Post(path, [handle = std::move(handle)](const httplib::Request& req, httplib::Response& res,
+                                                     const httplib::ContentReader& reader) {
+        if (Body body; readBody(req, res, reader, body)) handle(req, body, res);
+      });
     }
   }
 
@@ -467,28 +562,61 @@ struct Service::State {
       if (!users.contains(id)) return answer(res, 404, JsonMap{{"error", "no_user"}, {"message", "no such user"}});
       answer(res, 200, JsonMap{{"vip_info", vipInfo(id)}, {"trial_reminders", trialReminders[id]}});
     });
-    server.Post(R"(/_mock/vip/(\d+))", [this](const httplib::Request& req, httplib::Response& res) {
-      std::lock_guard lock(mutex);
-      const std::int64_t id = pathId(req.matches[1].str());
-      if (!users.contains(id)) return answer(res, 404, JsonMap{{"error", "no_user"}, {"message", "no such user"}});
+    server.Post(R"(/_mock/vip/(\d+))",
+                [this](const httplib::Request& req, httplib::Response& res, const httplib::ContentReader& reader) {
+                  Body body;
+                  if (!readBody(req, res, reader, body)) return;
+                  std::lock_guard lock(mutex);
+                  const std::int64_t id = pathId(req.matches[1].str());
+                  if (!users.contains(id))
+                    return answer(res, 404, JsonMap{{"error", "no_user"}, {"message", "no such user"}});
+                  try {
+                    JsonMap& info = vipInfo(id);
+                    for (const auto& member : parseJsonMap(body.data)) info[member.key()] = member.value();
+                    users[id]["vip"] = info["is_vip"];
+                    answer(res, 200, JsonMap{{"vip_info", info}});
+                  } catch (const std::exception&) {
+                    answer(res, 400, JsonMap{{"error", "bad_request"}, {"message", "the body must be a JSON object"}});
+                  }
+                });
+    // Statuses that come without a body: a route's path asked for with another verb is a 405.
+    server.set_error_handler([this](const httplib::Request& req, httplib::Response& res) {
+      if (!res.body.empty()) return;
+      if (const auto verb = verbs.find(req.path); res.status == 404 && verb != verbs.end()) {
+        res.status = 405;
+        res.set_header("Allow", verb->second);
+      }
+      answer(res, res.status, errorBody(res.status));
+    });
+    // An exception that escapes a route is a 500 with the usual error body. Its text goes to the log, not
+    // into the answer (httplib's own handling would echo it in a header).
+    server.set_exception_handler([](const httplib::Request& req, httplib::Response& res, std::exception_ptr ep) {
       try {
-        JsonMap& info = vipInfo(id);
-        for (const auto& member : parseJsonMap(req.body)) info[member.key()] = member.value();
-        users[id]["vip"] = info["is_vip"];
-        answer(res, 200, JsonMap{{"vip_info", info}});
-      } catch (const std::exception&) {
-        answer(res, 400, JsonMap{{"error", "bad_request"}, {"message", "the body must be a JSON object"}});
+        std::rethrow_exception(ep);
+      } catch (const std::exception& e) {
+        std::cerr << "qbapi-mock: " << req.method << " " << req.path << " failed: " << e.what() << "\n";
+      } catch (...) {
+        std::cerr << "qbapi-mock: " << req.method << " " << req.path << " failed\n";
       }
+      res.headers.clear();
+      answer(res, 500, errorBody(500));
     });
-    server.set_error_handler([](const httplib::Request&, httplib::Response& res) {
-      if (res.body.empty()) {
-        answer(res, res.status, JsonMap{{"error", "not_found"}, {"message", "no such endpoint"}});
-      }
-    });
+  }
+
+  // Limits that keep a misbehaving client from exhausting memory or the workers.
+  void limit() {
+    server.set_payload_max_length(kMaxBodyBytes);
+    server.set_read_timeout(kStallTimeout);
+    server.set_write_timeout(kStallTimeout);
+    server.set_keep_alive_timeout(kStallTimeout.count());
+    server.new_task_queue = [] { return new httplib::ThreadPool(kWorkers); };
   }
 };
 
-Service::Service() : state_(std::make_unique<State>()) { state_->install(); }
+Service::Service(std::optional<std::uint64_t> seed) : state_(std::make_unique<State>(seed)) {
+  state_->install();
+  state_->limit();
+}
 
 Service::~Service() { stop(); }
 
@@ -497,6 +625,7 @@ int Service::start(int port) {
   s.port = port == 0 ? s.server.bind_to_any_port("127.0.0.1") : (s.server.bind_to_port("127.0.0.1", port) ? port : -1);
   // A qb::Error, so that the qbapi tool, which starts the service in-process, reports it with the rest.
   if (s.port <= 0) throw qb::Error("qbapi-mock could not bind 127.0.0.1:" + std::to_string(port));
+  s.server.widenBacklog();
   s.thread = std::thread([&s] { s.server.listen_after_bind(); });
   for (int i = 0; i < 5000 && !s.server.is_running(); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(1));
   return s.port;

@@ -2,16 +2,28 @@
 // real HTTP on loopback. Used by the tests, the qbapi tool and as the qbapi-mock binary.
 #pragma once
 
-#include <atomic>
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace qb::mock {
 
 class Service {
  public:
-  Service();
+  // The largest request body read; a longer one is answered 413 without being kept.
+  static constexpr std::size_t kMaxBodyBytes = std::size_t{8} << 20;
+  // How long a connection may sit idle between requests, or stall while sending a request or taking a
+  // reply, before the service drops it.
+  static constexpr std::chrono::seconds kStallTimeout{2};
+  // Connections served at once; so many stalled clients cannot keep the others waiting.
+  static constexpr std::size_t kWorkers = 32;
+
+  // Access tokens and verification codes come from `seed` when one is given (the same ones on every
+  // run), else from std::random_device. Account and item ids are the same on every run either way.
+  explicit Service(std::optional<std::uint64_t> seed = std::nullopt);
   ~Service();
   Service(const Service&) = delete;
   Service& operator=(const Service&) = delete;
