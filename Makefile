@@ -52,6 +52,8 @@ tsan: deps
 # run (build included) within a few minutes on two cores; the table and the `qb-bench:` line come last.
 BENCH_MIN_TIME ?= 0.2
 BENCH_REPETITIONS ?= 3
+# The host against the mock service: calls made by 8 threads (qb_load).
+LOAD_CALLS ?= 4000
 bench: deps
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
@@ -59,6 +61,7 @@ bench: deps
 	  --benchmark_repetitions=$(BENCH_REPETITIONS) --benchmark_display_aggregates_only=true \
 	  --benchmark_out=build/bench/results.json --benchmark_out_format=json
 	python3 bench/report.py build/bench/results.json
+	build/bench/bench/qb_load $(LOAD_CALLS)
 
 FUZZ_SECONDS ?= 20
 fuzz: deps

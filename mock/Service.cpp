@@ -163,6 +163,7 @@ struct Service::State {
   std::map<std::int64_t, Upload> avatars;           // user id -> uploaded avatar
   std::map<std::int64_t, JsonMap> vipInfos;         // user id -> subscription summary, once changed
   std::map<std::int64_t, JsonList> trialReminders;  // user id -> reminders asked for
+  std::size_t faqCount = 3;                         // entries get_faq answers
   Extras extras;                                    // the domains' /_mock/ routes and deletion hooks
   std::int64_t nextUserId = 9007199254740993;       // above 2^53, as real ids may be
   std::mt19937_64 random;
@@ -371,14 +372,18 @@ struct Service::State {
            return JsonMap{};
          }},
         {user::kGetFaq.path,
-         [](Call&) {
+         [this](Call&) {
            JsonList faqs;
            const char* entries[][2] = {{"How do I identify a plant?", "Take a clear photo of a leaf or flower."},
                                        {"Can I use the app offline?", "Identification needs a connection."},
                                        {"How do I cancel my subscription?", "In your store's account settings."}};
-           std::int64_t type = 1;
-           for (const auto& e : entries)
-             faqs.push_back(JsonMap{{"title", e[0]}, {"content", e[1]}, {"faq_type", type++}});
+           // Three entries unless a test asked for more (POST /_mock/faq), numbered after the first round.
+           for (std::size_t i = 0; i < faqCount; ++i) {
+             const auto& e = entries[i % 3];
+             const std::string round = i < 3 ? "" : " (" + std::to_string(i / 3 + 1) + ")";
+             faqs.push_back(JsonMap{
+                 {"title", e[0] + round}, {"content", e[1]}, {"faq_type", static_cast<std::int64_t>(i % 3 + 1)}});
+           }
            return JsonMap{{"faqs", std::move(faqs)}};
          }},
     };
@@ -554,6 +559,21 @@ struct Service::State {
                    }
                  });
     }
+    // How many entries get_faq answers, for tests and benchmarks of larger replies: {"count": N}.
+    server.Post("/_mock/faq", [this](const httplib::Request& req, httplib::Response& res,
+                                     const httplib::ContentReader& reader) {
+      Body body;
+      if (!readBody(req, res, reader, body)) return;
+      std::lock_guard lock(mutex);
+      try {
+        const JsonValue count = parseJsonMap(body.data).at("count");
+        if (!count.is_int64() || count.get_int64() < 0 || count.get_int64() > 100000) throw std::out_of_range("count");
+        faqCount = static_cast<std::size_t>(count.get_int64());
+        answer(res, 200, JsonMap{{"count", count}});
+      } catch (const std::exception&) {
+        answer(res, 400, JsonMap{{"error", "bad_request"}, {"message", "the body must be {\"count\": 0..100000}"}});
+      }
+    });
     // The subscription summary and the trial reminders of an account; POST merges the body's members
     // into the summary (`{"is_vip": true, "vip_level": 3}`), for tests of a subscribed account.
     server.Get(R"(/_mock/vip/(\d+))", [this](const httplib::Request& req, httplib::Response& res) {
@@ -610,6 +630,11 @@ struct Service::State {
     server.set_write_timeout(kStallTimeout);
     server.set_keep_alive_timeout(kStallTimeout.count());
     server.new_task_queue = [] { return new httplib::ThreadPool(kWorkers); };
+    // Replies go out at once: with Nagle's algorithm a reply written in two pieces waits for the client's
+    // delayed acknowledgement (40 ms on Linux) on every keep-alive call.
+    server.set_tcp_nodelay(true);
+    // A keep-alive connection serves many calls, as a real service's does (the default closes after 5).
+    server.set_keep_alive_max_count(1000);
   }
 };
 
