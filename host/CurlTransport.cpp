@@ -1,7 +1,12 @@
 #include <curl/curl.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdio>
+#include <cstring>
 #include <mutex>
+#include <string_view>
+#include <vector>
 
 #include <QBComponentAPI/host/Client.hpp>
 
@@ -10,18 +15,21 @@
 namespace qb::host {
 namespace {
 
-// One connection cache (and DNS cache) for every thread, guarded by a lock per kind of shared data.
+// The DNS cache and TLS sessions, shared by every handle of a transport whichever thread runs it, each
+// kind of data under its own lock. Connections are not shared: libcurl does not support a connection
+// cache shared between threads, so each handle keeps its own (see CurlTransport).
 class CurlShare {
  public:
   CurlShare() {
     static std::once_flag once;
     std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
     share_ = curl_share_init();
-    curl_share_setopt(share_, CURLSHOPT_SHARE, CURL_LOCK_DATA_CONNECT);
-    curl_share_setopt(share_, CURLSHOPT_SHARE, CURL_LOCK_DATA_DNS);
+    if (!share_) return;
     curl_share_setopt(share_, CURLSHOPT_LOCKFUNC, &CurlShare::lock);
     curl_share_setopt(share_, CURLSHOPT_UNLOCKFUNC, &CurlShare::unlock);
     curl_share_setopt(share_, CURLSHOPT_USERDATA, this);
+    curl_share_setopt(share_, CURLSHOPT_SHARE, CURL_LOCK_DATA_DNS);
+    curl_share_setopt(share_, CURLSHOPT_SHARE, CURL_LOCK_DATA_SSL_SESSION);
   }
   ~CurlShare() { curl_share_cleanup(share_); }
   CurlShare(const CurlShare&) = delete;
@@ -30,13 +38,14 @@ class CurlShare {
 
  private:
   static void lock(CURL*, curl_lock_data data, curl_lock_access, void* self) {
-    static_cast<CurlShare*>(self)->locks_[static_cast<std::size_t>(data) % 8].lock();
+    static_cast<CurlShare*>(self)->locks_[static_cast<std::size_t>(data) % kLocks].lock();
   }
   static void unlock(CURL*, curl_lock_data data, void* self) {
-    static_cast<CurlShare*>(self)->locks_[static_cast<std::size_t>(data) % 8].unlock();
+    static_cast<CurlShare*>(self)->locks_[static_cast<std::size_t>(data) % kLocks].unlock();
   }
+  static constexpr std::size_t kLocks = 8;
   CURLSH* share_;
-  std::array<std::mutex, 8> locks_;
+  std::array<std::mutex, kLocks> locks_;
 };
 
 std::size_t collect(char* data, std::size_t size, std::size_t count, void* out) {
@@ -44,30 +53,64 @@ std::size_t collect(char* data, std::size_t size, std::size_t count, void* out) 
   return size * count;
 }
 
+// The body of a POST, handed to libcurl as it asks. A POST goes out at most once: when a reused connection
+// closes after the request went out and before any reply byte, libcurl sends the request again on a new
+// connection, rewinding the body through the seek callback first, and this one refuses, which fails the
+// transfer instead. (A POST on a connection of its own every time would do as well, at the price of a
+// connect, and a TLS handshake, per POST, and of connections held open in pairs.)
+struct Upload {
+  std::string_view body;
+  std::size_t sent = 0;
+  bool refused = false;
+
+  static std::size_t read(char* buffer, std::size_t size, std::size_t count, void* self) noexcept {
+    auto& u = *static_cast<Upload*>(self);
+    const std::size_t n = std::min(size * count, u.body.size() - u.sent);
+    std::memcpy(buffer, u.body.data() + u.sent, n);
+    u.sent += n;
+    return n;
+  }
+  static int seek(void* self, curl_off_t offset, int origin) noexcept {
+    auto& u = *static_cast<Upload*>(self);
+    if (offset == 0 && origin == SEEK_SET && u.sent == 0) return CURL_SEEKFUNC_OK;  // nothing has gone out
+    u.refused = true;
+    return CURL_SEEKFUNC_FAIL;
+  }
+};
+
+// Handles are pooled: a call takes an idle one (or makes one) and gives it back after, so that its
+// connections stay open for the next call, on whichever thread. A handle serves one thread at a time,
+// which is all libcurl asks; its connection cache is its own, the one mode libcurl supports across threads.
 class CurlTransport final : public Transport {
  public:
+  CurlTransport() { idle_.reserve(kMaxIdle); }
+  ~CurlTransport() override {
+    for (CURL* curl : idle_) curl_easy_cleanup(curl);
+  }
+  CurlTransport(const CurlTransport&) = delete;
+  CurlTransport& operator=(const CurlTransport&) = delete;
+
   HttpResponse send(const HttpRequest& request) override {
-    CURL* curl = curl_easy_init();
-    if (!curl) throw TransportError("libcurl could not start a transfer");
-    struct Cleanup {
+    struct Lease {
+      CurlTransport& owner;
       CURL* curl;
       curl_slist* headers = nullptr;
-      ~Cleanup() {
+      ~Lease() {
         curl_slist_free_all(headers);
-        curl_easy_cleanup(curl);
+        owner.release(curl);
       }
-    } cleanup{curl};
+    } lease{*this, acquire()};
+    CURL* curl = lease.curl;
     for (const auto& [name, value] : request.headers) {
-      cleanup.headers = curl_slist_append(cleanup.headers, (name + ": " + value).c_str());
+      lease.headers = curl_slist_append(lease.headers, (name + ": " + value).c_str());
     }
     if (!request.contentType.empty()) {
-      cleanup.headers = curl_slist_append(cleanup.headers, ("Content-Type: " + request.contentType).c_str());
+      lease.headers = curl_slist_append(lease.headers, ("Content-Type: " + request.contentType).c_str());
     }
-    cleanup.headers = curl_slist_append(cleanup.headers, "Expect:");
+    lease.headers = curl_slist_append(lease.headers, "Expect:");
     HttpResponse response;
-    curl_easy_setopt(curl, CURLOPT_SHARE, share_.handle());
     curl_easy_setopt(curl, CURLOPT_URL, request.url.c_str());
-    curl_easy_setopt(curl, CURLOPT_HTTPHEADER, cleanup.headers);
+    curl_easy_setopt(curl, CURLOPT_HTTPHEADER, lease.headers);
     curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
     // Only HTTP and HTTPS, whatever URL arrives; redirects are not followed, and would be held to the same.
 #if LIBCURL_VERSION_NUM >= 0x075500
@@ -82,23 +125,75 @@ class CurlTransport final : public Transport {
     curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &collect);
     curl_easy_setopt(curl, CURLOPT_WRITEDATA, &response.body);
     curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "");
+    Upload upload{.body = request.body};
     if (request.method == "POST") {
       curl_easy_setopt(curl, CURLOPT_POST, 1L);
-      curl_easy_setopt(curl, CURLOPT_POSTFIELDS, request.body.data());
       curl_easy_setopt(curl, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
+      if (request.body.empty()) {
+        // Nothing to rewind, so nothing would stop a second copy: a new connection, which libcurl never
+        // retries on.
+        curl_easy_setopt(curl, CURLOPT_POSTFIELDS, "");
+        curl_easy_setopt(curl, CURLOPT_FRESH_CONNECT, 1L);
+      } else {
+        curl_easy_setopt(curl, CURLOPT_READFUNCTION, &Upload::read);
+        curl_easy_setopt(curl, CURLOPT_READDATA, &upload);
+        curl_easy_setopt(curl, CURLOPT_SEEKFUNCTION, &Upload::seek);
+        curl_easy_setopt(curl, CURLOPT_SEEKDATA, &upload);
+      }
     }
     const CURLcode code = curl_easy_perform(curl);
-    if (code != CURLE_OK) {
-      // Headers (and so the token) never appear in the message, nor the URL's user info and query.
-      throw TransportError(std::string(curl_easy_strerror(code)) + " (" + request.method + " " +
-                           url::redact(request.url) + ")");
+    // Headers (and so the token) never appear in a message, nor the URL's user info and query.
+    const std::string where = " (" + request.method + " " + url::redact(request.url) + ")";
+    if (upload.refused) {
+      throw TransportError(
+          "The connection closed after the request was sent and before any reply; it is not sent "
+          "again, as the service may have acted on it" +
+          where);
     }
+    if (code != CURLE_OK) throw TransportError(std::string(curl_easy_strerror(code)) + where);
     curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &response.status);
     return response;
   }
 
  private:
+  // At most this many idle handles are kept, each with its open connections; more are closed.
+  static constexpr std::size_t kMaxIdle = 16;
+  // A client talks to one service, so a handle needs one open connection (a new one replaces it).
+  static constexpr long kConnectionsPerHandle = 1;
+
+  CURL* acquire() {
+    {
+      std::lock_guard lock(mutex_);
+      if (!idle_.empty()) {
+        CURL* curl = idle_.back();
+        idle_.pop_back();
+        return curl;
+      }
+    }
+    CURL* curl = curl_easy_init();
+    if (!curl) throw TransportError("libcurl could not start a transfer");
+    curl_easy_setopt(curl, CURLOPT_SHARE, share_.handle());
+    curl_easy_setopt(curl, CURLOPT_MAXCONNECTS, kConnectionsPerHandle);
+    return curl;
+  }
+
+  // Clears the handle's options (the request's pointers among them) but keeps its connections and share.
+  void release(CURL* curl) noexcept {
+    curl_easy_reset(curl);
+    curl_easy_setopt(curl, CURLOPT_MAXCONNECTS, kConnectionsPerHandle);
+    {
+      std::lock_guard lock(mutex_);
+      if (idle_.size() < kMaxIdle) {
+        idle_.push_back(curl);  // within the reserved capacity: does not allocate
+        return;
+      }
+    }
+    curl_easy_cleanup(curl);
+  }
+
   CurlShare share_;
+  std::mutex mutex_;
+  std::vector<CURL*> idle_;
 };
 
 }  // namespace

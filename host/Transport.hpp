@@ -31,7 +31,8 @@ class Transport {
   virtual HttpResponse send(const HttpRequest& request) = 0;
 };
 
-// libcurl, with one connection cache shared by every thread.
+// libcurl. A pool of handles, each used by one thread at a time and keeping its own connections; the
+// handles share their DNS cache and TLS sessions.
 std::shared_ptr<Transport> makeCurlTransport();
 
 }  // namespace qb::host
