@@ -80,6 +80,10 @@ HttpError::HttpError(long status, std::string body)
     : HostError("HTTP status " + std::to_string(status) + ": " + printable(std::string_view(body).substr(0, 512))),
       status_(status),
       body_(std::move(body)) {
+  if (body_.size() > kKeptBodyBytes) {
+    body_.resize(kKeptBodyBytes);
+    body_.shrink_to_fit();
+  }
   // Read once here, so that the accessors are plain. Any body may come back (an HTML error page, a proxy's
   // text, nothing): a body that is not JSON leaves both unset rather than throwing.
   JsonValue reply;
@@ -132,6 +136,7 @@ HttpRequest Client::prepare(std::string_view api, std::string_view verb, bool fo
   if (!http.url.empty() && http.url.back() != '/') http.url += '/';
   http.url += api;
   http.timeout = options_.timeout;
+  http.maxReplyBytes = options_.maxReplyBytes;
   std::lock_guard lock(mutex_);
   if (needAuth && token_) {
     http.headers.emplace_back("Authorization", "Bearer " + *token_);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -28,8 +29,13 @@ class HostError : public qb::Error {
 // The service answered with a status other than 2xx.
 class HttpError : public HostError {
  public:
+  // The most of an error body an HttpError keeps (and the curl transport receives into memory): the
+  // service's explanation or the start of an error page, never a hostile server's megabytes.
+  static constexpr std::size_t kKeptBodyBytes = 4096;
+
   HttpError(long status, std::string body);
   long status() const noexcept { return status_; }
+  // The first kKeptBodyBytes of the reply body.
   const std::string& body() const noexcept { return body_; }
   // The service's explanation, when the body is a JSON object with these members as strings:
   // {"error": "wrong_password", "message": "the password does not match"}. Otherwise std::nullopt.
@@ -46,6 +52,19 @@ class HttpError : public HostError {
 class TransportError : public HostError {
  public:
   using HostError::HostError;
+};
+// The reply passed ClientOptions::maxReplyBytes (counted after decoding); receiving stopped there.
+class ReplyTooLargeError : public HostError {
+ public:
+  ReplyTooLargeError(const std::string& message, std::size_t limit, std::size_t received)
+      : HostError(message), limit_(limit), received_(received) {}
+  std::size_t limit() const noexcept { return limit_; }
+  // The body bytes taken in before receiving stopped: at most the limit.
+  std::size_t received() const noexcept { return received_; }
+
+ private:
+  std::size_t limit_;
+  std::size_t received_;
 };
 // The endpoint insists on a session and the app has set no access token; nothing was sent.
 class AuthRequiredError : public HostError {
@@ -76,6 +95,9 @@ struct ClientOptions {
   std::chrono::milliseconds timeout{15000};
   int maxRetries = 2;                      // extra attempts for GET on transport failures and 429/502/503/504
   std::chrono::milliseconds backoff{200};  // first retry delay; doubles each time, with ±50% jitter
+  // The largest reply body accepted, counted after gzip/deflate decoding; a larger one fails the call with
+  // ReplyTooLargeError once this many bytes have arrived, without holding more.
+  std::size_t maxReplyBytes = 64 * 1024 * 1024;
   std::optional<std::string> envelopeKey = std::nullopt;  // when replies wrap the result keys: {"data": {...}}
 };
 

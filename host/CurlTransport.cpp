@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <exception>
+#include <limits>
 #include <mutex>
 #include <string_view>
 #include <vector>
@@ -48,10 +50,40 @@ class CurlShare {
   std::array<std::mutex, kLocks> locks_;
 };
 
-std::size_t collect(char* data, std::size_t size, std::size_t count, void* out) {
-  static_cast<std::string*>(out)->append(data, size * count);
-  return size * count;
-}
+// What the callbacks of one exchange write to. They run inside curl_easy_perform, in C: nothing may be
+// thrown through them, so they keep what went wrong here, and send() reports it once libcurl has returned.
+struct Reception {
+  CURL* curl;
+  std::size_t limit;
+  HttpResponse& response;
+  bool tooLarge = false;
+  std::exception_ptr error{};
+
+  // Body bytes as libcurl hands them over, after gzip or deflate decoding: the limit holds for what the
+  // reply inflates to, and receiving stops at it rather than after it.
+  static std::size_t body(char* data, std::size_t size, std::size_t count, void* self) noexcept {
+    auto& r = *static_cast<Reception*>(self);
+    const std::size_t n = size * count;
+    try {
+      if (n > r.limit - r.response.bytesReceived) {
+        r.tooLarge = true;
+        return 0;  // anything but n aborts the transfer
+      }
+      r.response.bytesReceived += n;
+      long status = 0;
+      curl_easy_getinfo(r.curl, CURLINFO_RESPONSE_CODE, &status);
+      std::string& kept = r.response.body;
+      const bool success = status >= 200 && status < 300;
+      const std::size_t room =
+          success ? n : HttpError::kKeptBodyBytes - std::min(kept.size(), HttpError::kKeptBodyBytes);
+      kept.append(data, std::min(n, room));
+      return n;
+    } catch (...) {
+      r.error = std::current_exception();
+      return 0;
+    }
+  }
+};
 
 // The body of a POST, handed to libcurl as it asks. A POST goes out at most once: when a reused connection
 // closes after the request went out and before any reply byte, libcurl sends the request again on a new
@@ -109,6 +141,7 @@ class CurlTransport final : public Transport {
     }
     lease.headers = curl_slist_append(lease.headers, "Expect:");
     HttpResponse response;
+    Reception reception{.curl = curl, .limit = request.maxReplyBytes, .response = response};
     curl_easy_setopt(curl, CURLOPT_URL, request.url.c_str());
     curl_easy_setopt(curl, CURLOPT_HTTPHEADER, lease.headers);
     curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
@@ -122,9 +155,15 @@ class CurlTransport final : public Transport {
 #endif
     curl_easy_setopt(curl, CURLOPT_TIMEOUT_MS, static_cast<long>(request.timeout.count()));
     curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(request.timeout.count()));
-    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &collect);
-    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &response.body);
-    curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "");
+    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &Reception::body);
+    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &reception);
+    // The encodings zlib decodes and the size limit covers; not every one this libcurl knows.
+    curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "gzip, deflate");
+    // A declared Content-Length over the limit fails before the body is read (0 would mean no limit).
+    if (request.maxReplyBytes > 0 &&
+        request.maxReplyBytes <= static_cast<std::size_t>(std::numeric_limits<curl_off_t>::max())) {
+      curl_easy_setopt(curl, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(request.maxReplyBytes));
+    }
     Upload upload{.body = request.body};
     if (request.method == "POST") {
       curl_easy_setopt(curl, CURLOPT_POST, 1L);
@@ -142,6 +181,7 @@ class CurlTransport final : public Transport {
       }
     }
     const CURLcode code = curl_easy_perform(curl);
+    if (reception.error) std::rethrow_exception(reception.error);
     // Headers (and so the token) never appear in a message, nor the URL's user info and query.
     const std::string where = " (" + request.method + " " + url::redact(request.url) + ")";
     if (upload.refused) {
@@ -149,6 +189,11 @@ class CurlTransport final : public Transport {
           "The connection closed after the request was sent and before any reply; it is not sent "
           "again, as the service may have acted on it" +
           where);
+    }
+    if (reception.tooLarge || code == CURLE_FILESIZE_EXCEEDED) {
+      throw ReplyTooLargeError(
+          "The reply is larger than the limit of " + std::to_string(request.maxReplyBytes) + " bytes" + where,
+          request.maxReplyBytes, response.bytesReceived);
     }
     if (code != CURLE_OK) throw TransportError(std::string(curl_easy_strerror(code)) + where);
     curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &response.status);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <utility>
@@ -17,17 +18,24 @@ struct HttpRequest {
   std::string contentType{};  // of the body; empty when there is none
   std::string body{};
   std::chrono::milliseconds timeout{15000};
+  // The most body bytes the reply may bring, counted after content decoding; more fails the exchange
+  // with ReplyTooLargeError.
+  std::size_t maxReplyBytes{64 * 1024 * 1024};
 };
 
 struct HttpResponse {
   long status = 0;
+  // For a status other than 2xx only the first HttpError::kKeptBodyBytes are kept.
   std::string body{};
+  // Body bytes received, after decoding, including those not kept.
+  std::size_t bytesReceived{};
 };
 
 class Transport {
  public:
   virtual ~Transport() = default;
-  // Performs the exchange. Throws TransportError when no complete answer arrives.
+  // Performs the exchange. Throws TransportError when no complete answer arrives and ReplyTooLargeError
+  // when the answer passes request.maxReplyBytes.
   virtual HttpResponse send(const HttpRequest& request) = 0;
 };
 

@@ -1,5 +1,6 @@
-// The host against servers that misbehave: connections closed under a POST; and one client shared by many
-// threads. Loopback only; every wait is bounded.
+// The host against servers that misbehave: connections closed under a POST, replies too large (or that
+// inflate too far), error pages; and one client shared by many threads. Loopback only; every wait is
+// bounded.
 #include <gtest/gtest.h>
 
 #include <QBComponentAPI/host/Client.hpp>
@@ -88,6 +89,76 @@ TEST(HostHostile, APostReachesTheServiceAtMostOnce) {
     EXPECT_EQ(std::count_if(seen.begin(), seen.end(), [](const auto& s) { return s.method == "POST"; }), c.posts);
     EXPECT_EQ(seen.back().onConnection, c.lastOnConnection);
   }
+}
+
+TEST(HostHostile, ARepliesSizeIsBoundedAfterDecoding) {
+  constexpr std::size_t kLimit = 1 << 20;
+  const std::string bomb = test::gzipOfZeros(32 << 20);
+  ASSERT_LT(bomb.size(), 250u << 10) << "about 200 KB on the wire";
+  const std::string small = test::gzipOfZeros(100 << 10);
+  const std::string big(kLimit + 1, 'x');
+  struct Case {
+    const char* name;
+    std::string reply;
+    std::string body;  // received, when it fits
+    bool tooLarge;
+    std::size_t received;  // ReplyTooLargeError::received() at most
+  } cases[] = {
+      {"gzip that inflates 160-fold past the limit", FaultServer::http(200, "Content-Encoding: gzip\r\n", bomb), "",
+       true, kLimit},
+      {"gzip within the limit", FaultServer::http(200, "Content-Encoding: gzip\r\n", small),
+       std::string(100 << 10, '\0'), false, 0},
+      {"a declared length past the limit, refused before the body", FaultServer::http(200, "", big), "", true, 0},
+      {"no declared length, stopped at the limit", FaultServer::http(200, "", big, false), "", true, kLimit},
+      {"exactly the limit", FaultServer::http(200, "", std::string(kLimit, 'x'), false), std::string(kLimit, 'x'),
+       false, 0},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    FaultServer server({FaultServer::raw(c.reply)});
+    const host::HttpRequest request{.method = "GET", .url = server.baseUrl(), .maxReplyBytes = kLimit};
+    try {
+      const host::HttpResponse response = host::makeCurlTransport()->send(request);
+      EXPECT_FALSE(c.tooLarge);
+      EXPECT_TRUE(response.body == c.body) << response.body.size() << " bytes";
+    } catch (const host::ReplyTooLargeError& e) {
+      EXPECT_TRUE(c.tooLarge) << e.what();
+      EXPECT_EQ(e.limit(), kLimit);
+      EXPECT_LE(e.received(), c.received) << "nothing past the limit was taken in";
+    }
+    ASSERT_EQ(server.seen().size(), 1u);
+    EXPECT_NE((server.seen()[0].head + "\r\n").find("\r\nAccept-Encoding: gzip, deflate\r\n"), std::string::npos)
+        << server.seen()[0].head;
+  }
+
+  // The client's option is what the transport enforces.
+  FaultServer server({FaultServer::raw(FaultServer::http(200, "", R"({"faqs": [], "pad": ")" + big + "\"}"))});
+  ClientOptions limited = options(server.baseUrl());
+  limited.maxReplyBytes = kLimit;
+  Client client(limited);
+  client.setAccessToken("t");
+  EXPECT_THROW(client.send(kGet), host::ReplyTooLargeError);
+}
+
+TEST(HostHostile, AnErrorBodyIsKeptOnlyInPart) {
+  const std::string page = R"({"error": "down", "message": "m"})" + std::string(100000, ' ');
+  FaultServer server(
+      {FaultServer::raw(FaultServer::http(500, "", page)), FaultServer::raw(FaultServer::http(500, "", page))});
+  const auto response = host::makeCurlTransport()->send({.method = "GET", .url = server.baseUrl()});
+  EXPECT_EQ(response.status, 500);
+  EXPECT_EQ(response.bytesReceived, page.size());
+  EXPECT_EQ(response.body, page.substr(0, host::HttpError::kKeptBodyBytes));
+
+  Client client(options(server.baseUrl()));
+  client.setAccessToken("t");
+  try {
+    client.send(kGet);
+    ADD_FAILURE();
+  } catch (const host::HttpError& e) {
+    EXPECT_EQ(e.body(), page.substr(0, host::HttpError::kKeptBodyBytes));
+    EXPECT_EQ(e.error(), "down");
+  }
+  EXPECT_EQ(host::HttpError(500, page).body().size(), host::HttpError::kKeptBodyBytes) << "whatever the transport";
 }
 
 // One client, many threads, GETs and POSTs mixed: each thread's calls take a handle of their own from the
