@@ -74,6 +74,14 @@ std::string printable(std::string_view body) {
 
 bool retryableStatus(long status) { return status == 429 || status == 502 || status == 503 || status == 504; }
 
+// What an observer may see of a URL: its path, without scheme, host, user info, query or fragment.
+std::string urlPath(std::string_view url) {
+  url = url.substr(0, url.find_first_of("?#"));
+  const auto schemeEnd = url.find("://");
+  const auto slash = url.find('/', schemeEnd == std::string_view::npos ? 0 : schemeEnd + 3);
+  return slash == std::string_view::npos ? "/" : std::string(url.substr(slash));
+}
+
 }  // namespace
 
 HttpError::HttpError(long status, std::string body)
@@ -189,14 +197,31 @@ std::string Client::exchange(const HttpRequest& http) {
   // Only GET is repeated: a POST that may have reached the service is never sent twice.
   const int attempts = http.method == "GET" ? 1 + std::max(0, options_.maxRetries) : 1;
   thread_local std::mt19937 random{std::random_device{}()};
+  const std::string path = options_.observer ? urlPath(http.url) : std::string();
   for (int attempt = 1;; ++attempt) {
+    const auto began = std::chrono::steady_clock::now();
+    Attempt seen{.method = http.method, .path = path, .number = attempt};
+    auto observe = [&] {
+      if (!options_.observer) return;
+      seen.duration = std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - began);
+      options_.observer(seen);
+    };
     std::optional<TransportError> failure;
     HttpResponse response;
     try {
       response = transport_->send(http);
+      seen.status = response.status;
+      seen.bytesReceived = response.bytesReceived;
     } catch (const TransportError& error) {
       failure = error;
+      seen.failure = error.what();
+    } catch (const ReplyTooLargeError& error) {
+      seen.failure = error.what();
+      seen.bytesReceived = error.received();
+      observe();
+      throw;
     }
+    observe();
     const bool retry = failure || retryableStatus(response.status);
     if (!retry && response.status >= 200 && response.status < 300) return std::move(response.body);
     if (!retry || attempt >= attempts) {

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -89,6 +90,18 @@ class InvalidUrlError : public HostError {
   using HostError::HostError;
 };
 
+// One attempt of a call, as ClientOptions::observer sees it. It never holds the token, another header or a
+// body.
+struct Attempt {
+  std::string method;                    // "GET" or "POST"
+  std::string path;                      // the URL's path: no scheme, host, user info or query
+  int number = 1;                        // 1 for a call's first attempt, 2 for its first retry, ...
+  long status = 0;                       // the reply's HTTP status; 0 when no reply came
+  std::string failure{};                 // why no usable reply came (the error's text); empty with a status
+  std::size_t bytesReceived = 0;         // reply body bytes, after decoding
+  std::chrono::microseconds duration{};  // from sending to the reply or the failure
+};
+
 struct ClientOptions {
   std::string baseUrl;                 // "https://api.example.com/" (the path "v3/..." is appended)
   bool allowInsecureLoopback = false;  // accept http:// for 127.0.0.0/8 (dotted quad), localhost and [::1]
@@ -99,6 +112,9 @@ struct ClientOptions {
   // ReplyTooLargeError once this many bytes have arrived, without holding more.
   std::size_t maxReplyBytes = 64 * 1024 * 1024;
   std::optional<std::string> envelopeKey = std::nullopt;  // when replies wrap the result keys: {"data": {...}}
+  // Called after every attempt, on the thread that sends (so on several at once when threads share the
+  // client); what it throws reaches the caller of send.
+  std::function<void(const Attempt&)> observer = nullptr;
 };
 
 class Collection;
