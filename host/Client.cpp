@@ -4,6 +4,8 @@
 
 #include "Url.hpp"
 
+#include <algorithm>
+#include <cmath>
 #include <random>
 #include <thread>
 
@@ -84,10 +86,11 @@ std::string urlPath(std::string_view url) {
 
 }  // namespace
 
-HttpError::HttpError(long status, std::string body)
+HttpError::HttpError(long status, std::string body, std::optional<std::chrono::seconds> retryAfter)
     : HostError("HTTP status " + std::to_string(status) + ": " + printable(std::string_view(body).substr(0, 512))),
       status_(status),
-      body_(std::move(body)) {
+      body_(std::move(body)),
+      retryAfter_(retryAfter) {
   if (body_.size() > kKeptBodyBytes) {
     body_.resize(kKeptBodyBytes);
     body_.shrink_to_fit();
@@ -190,20 +193,47 @@ std::vector<Client::Part> Client::typedParts(const std::vector<APIMimeBody>& bod
   return parts;
 }
 
-std::string Client::exchange(const HttpRequest& http) {
+std::optional<std::chrono::milliseconds> Client::retryDelay(int retry,
+                                                            std::optional<std::chrono::seconds> retryAfter) const {
+  using std::chrono::milliseconds;
+  const milliseconds cap = std::max(options_.maxBackoff, milliseconds(0));
+  // Compared in whole seconds, so that no Retry-After, however large, overflows a conversion.
+  if (retryAfter && *retryAfter > std::chrono::duration_cast<std::chrono::seconds>(cap)) return std::nullopt;
+  // backoff * 2^(retry - 1), doubled a step at a time so that it stops at the cap instead of overflowing.
+  milliseconds delay = std::clamp(options_.backoff, milliseconds(0), cap);
+  for (int i = 1; i < retry && delay < cap; ++i) delay = delay > cap / 2 ? cap : delay * 2;
+  thread_local std::mt19937 random{std::random_device{}()};
+  std::uniform_real_distribution<double> jitter(0.5, 1.5);
+  const double jittered =
+      std::min(static_cast<double>(delay.count()) * jitter(random), static_cast<double>(cap.count()));
+  delay = milliseconds(std::llround(jittered));
+  if (retryAfter) delay = std::max(delay, milliseconds(std::max(*retryAfter, std::chrono::seconds(0))));
+  return delay;
+}
+
+std::string Client::exchange(HttpRequest& http) {
+  using Clock = std::chrono::steady_clock;
+  using std::chrono::milliseconds;
   // Every header this client built, checked once more where they leave it.
   for (const auto& [name, value] : http.headers) checkHeaderValue("The " + name + " header", value);
   checkHeaderValue("The content type", http.contentType);
   // Only GET is repeated: a POST that may have reached the service is never sent twice.
-  const int attempts = http.method == "GET" ? 1 + std::max(0, options_.maxRetries) : 1;
-  thread_local std::mt19937 random{std::random_device{}()};
+  const int retries = http.method == "GET" ? std::clamp(options_.maxRetries, 0, ClientOptions::kMaxRetries) : 0;
+  // Without a deadline, a time no call reaches.
+  const Clock::time_point end =
+      options_.deadline ? Clock::now() + std::max(*options_.deadline, milliseconds(1)) : Clock::time_point::max();
+  const milliseconds timeout = std::max(options_.timeout, milliseconds(1));
   const std::string path = options_.observer ? urlPath(http.url) : std::string();
   for (int attempt = 1;; ++attempt) {
-    const auto began = std::chrono::steady_clock::now();
+    const Clock::time_point began = Clock::now();
+    // A timeout of zero would be none at all to a transport: an attempt always gets at least a millisecond.
+    http.timeout = options_.deadline
+                       ? std::clamp(std::chrono::duration_cast<milliseconds>(end - began), milliseconds(1), timeout)
+                       : timeout;
     Attempt seen{.method = http.method, .path = path, .number = attempt};
     auto observe = [&] {
       if (!options_.observer) return;
-      seen.duration = std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - began);
+      seen.duration = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - began);
       options_.observer(seen);
     };
     std::optional<TransportError> failure;
@@ -222,15 +252,18 @@ std::string Client::exchange(const HttpRequest& http) {
       throw;
     }
     observe();
-    const bool retry = failure || retryableStatus(response.status);
-    if (!retry && response.status >= 200 && response.status < 300) return std::move(response.body);
-    if (!retry || attempt >= attempts) {
+    if (!failure && response.status >= 200 && response.status < 300) return std::move(response.body);
+
+    const bool transient = failure ? failure->transient() : retryableStatus(response.status);
+    std::optional<milliseconds> wait;
+    if (transient && attempt <= retries) wait = retryDelay(attempt, failure ? std::nullopt : response.retryAfter);
+    // No retry that could not begin before the deadline.
+    if (wait && options_.deadline && Clock::now() + *wait >= end) wait.reset();
+    if (!wait) {
       if (failure) throw *failure;
-      throw HttpError(response.status, std::move(response.body));
+      throw HttpError(response.status, std::move(response.body), response.retryAfter);
     }
-    const auto base = options_.backoff * (1 << (attempt - 1));
-    std::uniform_real_distribution<double> jitter(0.5, 1.5);
-    std::this_thread::sleep_for(std::chrono::duration_cast<std::chrono::milliseconds>(base * jitter(random)));
+    std::this_thread::sleep_for(*wait);
   }
 }
 

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <exception>
 #include <limits>
 #include <mutex>
@@ -50,6 +53,54 @@ class CurlShare {
   std::array<std::mutex, kLocks> locks_;
 };
 
+// Failures that may pass if the request is sent again. Everything else (TLS and certificate failures, a URL
+// or protocol libcurl refuses, an aborted write) would fail the same way again.
+bool transient(CURLcode code) {
+  switch (code) {
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_RESOLVE_PROXY:
+    case CURLE_COULDNT_CONNECT:
+    case CURLE_OPERATION_TIMEDOUT:
+    case CURLE_SEND_ERROR:
+    case CURLE_RECV_ERROR:
+    case CURLE_GOT_NOTHING:
+    case CURLE_PARTIAL_FILE:
+    case CURLE_HTTP2:
+    case CURLE_HTTP2_STREAM: return true;
+    default: return false;
+  }
+}
+
+bool startsWithNoCase(std::string_view text, std::string_view prefix) {
+  if (text.size() < prefix.size()) return false;
+  for (std::size_t i = 0; i < prefix.size(); ++i) {
+    const char c = text[i] >= 'A' && text[i] <= 'Z' ? static_cast<char>(text[i] - 'A' + 'a') : text[i];
+    if (c != prefix[i]) return false;
+  }
+  return true;
+}
+
+// Retry-After as delta-seconds or as an HTTP date; std::nullopt when it is neither.
+std::optional<std::chrono::seconds> parseRetryAfter(std::string_view value) {
+  while (!value.empty() && (value.front() == ' ' || value.front() == '\t')) value.remove_prefix(1);
+  while (!value.empty() &&
+         (value.back() == ' ' || value.back() == '\t' || value.back() == '\r' || value.back() == '\n')) {
+    value.remove_suffix(1);
+  }
+  if (value.empty()) return std::nullopt;
+  constexpr std::int64_t kLongest = std::numeric_limits<std::int32_t>::max();
+  if (value.find_first_not_of("0123456789") == std::string_view::npos) {
+    std::int64_t seconds = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seconds);
+    return std::chrono::seconds(error == std::errc() && end == value.data() + value.size() ? std::min(seconds, kLongest)
+                                                                                           : kLongest);
+  }
+  const std::time_t when = curl_getdate(std::string(value).c_str(), nullptr);
+  if (when == -1) return std::nullopt;
+  const std::int64_t wait = static_cast<std::int64_t>(when) - static_cast<std::int64_t>(std::time(nullptr));
+  return std::chrono::seconds(std::clamp<std::int64_t>(wait, 0, kLongest));
+}
+
 // What the callbacks of one exchange write to. They run inside curl_easy_perform, in C: nothing may be
 // thrown through them, so they keep what went wrong here, and send() reports it once libcurl has returned.
 struct Reception {
@@ -78,6 +129,22 @@ struct Reception {
           success ? n : HttpError::kKeptBodyBytes - std::min(kept.size(), HttpError::kKeptBodyBytes);
       kept.append(data, std::min(n, room));
       return n;
+    } catch (...) {
+      r.error = std::current_exception();
+      return 0;
+    }
+  }
+
+  static std::size_t header(char* data, std::size_t size, std::size_t count, void* self) noexcept {
+    auto& r = *static_cast<Reception*>(self);
+    const std::string_view line(data, size * count);
+    try {
+      if (line.starts_with("HTTP/")) {
+        r.response.retryAfter.reset();  // the headers of a new response (after an interim 1xx)
+      } else if (startsWithNoCase(line, "retry-after:")) {
+        r.response.retryAfter = parseRetryAfter(line.substr(12));
+      }
+      return size * count;
     } catch (...) {
       r.error = std::current_exception();
       return 0;
@@ -157,6 +224,8 @@ class CurlTransport final : public Transport {
     curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(request.timeout.count()));
     curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &Reception::body);
     curl_easy_setopt(curl, CURLOPT_WRITEDATA, &reception);
+    curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &Reception::header);
+    curl_easy_setopt(curl, CURLOPT_HEADERDATA, &reception);
     // The encodings zlib decodes and the size limit covers; not every one this libcurl knows.
     curl_easy_setopt(curl, CURLOPT_ACCEPT_ENCODING, "gzip, deflate");
     // A declared Content-Length over the limit fails before the body is read (0 would mean no limit).
@@ -195,7 +264,7 @@ class CurlTransport final : public Transport {
           "The reply is larger than the limit of " + std::to_string(request.maxReplyBytes) + " bytes" + where,
           request.maxReplyBytes, response.bytesReceived);
     }
-    if (code != CURLE_OK) throw TransportError(std::string(curl_easy_strerror(code)) + where);
+    if (code != CURLE_OK) throw TransportError(std::string(curl_easy_strerror(code)) + where, transient(code));
     curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &response.status);
     return response;
   }
@@ -216,7 +285,7 @@ class CurlTransport final : public Transport {
       }
     }
     CURL* curl = curl_easy_init();
-    if (!curl) throw TransportError("libcurl could not start a transfer");
+    if (!curl) throw TransportError("libcurl could not start a transfer", false);
     curl_easy_setopt(curl, CURLOPT_SHARE, share_.handle());
     curl_easy_setopt(curl, CURLOPT_MAXCONNECTS, kConnectionsPerHandle);
     return curl;

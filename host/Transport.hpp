@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,6 +28,8 @@ struct HttpResponse {
   long status = 0;
   // For a status other than 2xx only the first HttpError::kKeptBodyBytes are kept.
   std::string body{};
+  // How long the service asked the client to wait (Retry-After, as seconds or as an HTTP date).
+  std::optional<std::chrono::seconds> retryAfter{};
   // Body bytes received, after decoding, including those not kept.
   std::size_t bytesReceived{};
 };
@@ -34,8 +37,8 @@ struct HttpResponse {
 class Transport {
  public:
   virtual ~Transport() = default;
-  // Performs the exchange. Throws TransportError when no complete answer arrives and ReplyTooLargeError
-  // when the answer passes request.maxReplyBytes.
+  // Performs the exchange. Throws TransportError when no complete answer arrives (transient() tells
+  // whether trying again may help) and ReplyTooLargeError when the answer passes request.maxReplyBytes.
   virtual HttpResponse send(const HttpRequest& request) = 0;
 };
 

@@ -1,11 +1,13 @@
 // The host against servers that misbehave: connections closed under a POST, replies too large (or that
-// inflate too far), error pages; what the observer is told; and one client shared by many threads.
-// Loopback only; every wait is bounded.
+// inflate too far), error pages, Retry-After, failures that cannot pass; what the observer is told; and
+// one client shared by many threads. Loopback only; every wait is bounded.
 #include <gtest/gtest.h>
 
 #include <QBComponentAPI/host/Client.hpp>
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <climits>
+#include <functional>
 #include <thread>
 
 #include "host/FaultServer.hpp"
@@ -20,6 +22,7 @@ using test::FaultServer;
 using Action = FaultServer::Action;
 using Step = FaultServer::Step;
 using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
 
 const UserGetFaqRequest kGet{.languageCode = LanguageCode::en, .deviceType = DeviceType::web};
 const UserDeleteAccountRequest kPost{};
@@ -159,6 +162,169 @@ TEST(HostHostile, AnErrorBodyIsKeptOnlyInPart) {
     EXPECT_EQ(e.error(), "down");
   }
   EXPECT_EQ(host::HttpError(500, page).body().size(), host::HttpError::kKeptBodyBytes) << "whatever the transport";
+}
+
+// A port with nothing listening: bound, then closed.
+int closedPort() {
+  const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  ::bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address);
+  socklen_t length = sizeof address;
+  ::getsockname(fd, reinterpret_cast<sockaddr*>(&address), &length);
+  ::close(fd);
+  return ntohs(address.sin_port);
+}
+
+TEST(HostHostile, RetriesAreBoundedAndOnlyForWhatMayPass) {
+  const std::vector<Step> alwaysBusy(20, Action::unavailable);
+  auto busyFor = [](const char* retryAfter) {
+    return FaultServer::raw(FaultServer::http(503, std::string("Retry-After: ") + retryAfter + "\r\n", "busy"));
+  };
+  enum class Outcome { ok, http, transient, permanent };
+  struct Case {
+    const char* name;
+    std::vector<Step> script;
+    std::function<void(ClientOptions&)> adjust;
+    int attempts;
+    Outcome outcome;
+    milliseconds atLeast, below;
+    std::string url = {};  // instead of the server's
+  } cases[] = {
+      {"Retry-After is waited out",
+       {busyFor("1"), Action::ok},
+       [](ClientOptions& o) {
+         o.maxRetries = 2;
+         o.maxBackoff = milliseconds(3000);
+       },
+       2,
+       Outcome::ok,
+       milliseconds(1000),
+       milliseconds(2500)},
+      {"a Retry-After past the cap ends the retries",
+       {busyFor("120"), Action::ok},
+       [](ClientOptions& o) {
+         o.maxRetries = 2;
+         o.maxBackoff = milliseconds(50);
+       },
+       1,
+       Outcome::http,
+       milliseconds(0),
+       milliseconds(1000)},
+      {"a Retry-After date in the past allows a retry at once",
+       {busyFor("Wed, 21 Oct 2015 07:28:00 GMT"), Action::ok},
+       [](ClientOptions& o) { o.maxRetries = 2; },
+       2,
+       Outcome::ok,
+       milliseconds(0),
+       milliseconds(1000)},
+      {"a Retry-After date next year ends the retries",
+       {busyFor("Fri, 01 Jan 2100 00:00:00 GMT"), Action::ok},
+       [](ClientOptions& o) { o.maxRetries = 2; },
+       1,
+       Outcome::http,
+       milliseconds(0),
+       milliseconds(1000)},
+      {"the back-off is capped",
+       {Action::unavailable, Action::unavailable, Action::ok},
+       [](ClientOptions& o) {
+         o.maxRetries = 2;
+         o.backoff = std::chrono::hours(10);
+         o.maxBackoff = milliseconds(20);
+       },
+       3,
+       Outcome::ok,
+       milliseconds(0),
+       milliseconds(1000)},
+      {"a huge retry count is clamped", alwaysBusy,
+       [](ClientOptions& o) {
+         o.maxRetries = INT_MAX;
+         o.maxBackoff = milliseconds(2);
+       },
+       ClientOptions::kMaxRetries + 1, Outcome::http, milliseconds(0), milliseconds(3000)},
+      {"a negative retry count is none", alwaysBusy, [](ClientOptions& o) { o.maxRetries = -5; }, 1, Outcome::http,
+       milliseconds(0), milliseconds(1000)},
+      {"the deadline stops the retries", alwaysBusy,
+       [](ClientOptions& o) {
+         o.maxRetries = 10;
+         o.backoff = o.maxBackoff = milliseconds(150);
+         o.deadline = milliseconds(350);
+       },
+       -1, Outcome::http, milliseconds(0), milliseconds(600)},
+      {"the deadline cuts an attempt short",
+       {Action::silent},
+       [](ClientOptions& o) {
+         o.timeout = milliseconds(5000);
+         o.deadline = milliseconds(300);
+       },
+       1,
+       Outcome::transient,
+       milliseconds(250),
+       milliseconds(1500)},
+      {"a refused connection is retried",
+       {},
+       [](ClientOptions& o) { o.maxRetries = 2; },
+       3,
+       Outcome::transient,
+       milliseconds(0),
+       milliseconds(1000),
+       "http://127.0.0.1:" + std::to_string(closedPort()) + "/"},
+      {"a TLS failure is not",
+       {},
+       [](ClientOptions& o) { o.maxRetries = 2; },
+       1,
+       Outcome::permanent,
+       milliseconds(0),
+       milliseconds(1000),
+       "https"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    FaultServer server(c.script);
+    ClientOptions o = options(c.url.empty()      ? server.baseUrl()
+                              : c.url == "https" ? "https://127.0.0.1:" + std::to_string(server.port()) + "/"
+                                                 : c.url);
+    c.adjust(o);
+    int attempts = 0;
+    o.observer = [&](const host::Attempt&) { ++attempts; };
+    Client client(o);
+    client.setAccessToken("t");
+    Outcome outcome = Outcome::ok;
+    const auto start = Clock::now();
+    try {
+      client.send(kGet);
+    } catch (const host::HttpError& e) {
+      outcome = Outcome::http;
+      EXPECT_EQ(e.status(), 503);
+    } catch (const host::TransportError& e) {
+      outcome = e.transient() ? Outcome::transient : Outcome::permanent;
+    }
+    const auto elapsed = Clock::now() - start;
+    EXPECT_EQ(outcome, c.outcome);
+    if (c.attempts > 0) {
+      EXPECT_EQ(attempts, c.attempts);
+    } else {
+      EXPECT_GE(attempts, 2);
+      EXPECT_LE(attempts, 5);
+    }
+    if (c.url.empty()) {
+      EXPECT_EQ(server.requests(), attempts);
+    }
+    EXPECT_GE(elapsed, c.atLeast);
+    EXPECT_LT(elapsed, c.below);
+  }
+
+  // The wait the service asked for travels with the error.
+  FaultServer server({busyFor("120")});
+  Client client(options(server.baseUrl()));
+  client.setAccessToken("t");
+  try {
+    client.send(kGet);
+    ADD_FAILURE();
+  } catch (const host::HttpError& e) {
+    EXPECT_EQ(e.retryAfter(), std::chrono::seconds(120));
+  }
 }
 
 TEST(HostHostile, TheObserverSeesEachAttemptAndNoSecret) {
