@@ -76,6 +76,10 @@ std::string printable(std::string_view body) {
 
 bool retryableStatus(long status) { return status == 429 || status == 502 || status == 503 || status == 504; }
 
+// Bounds on the durations a call adds to the clock, so that none overflows a time point whatever the options.
+constexpr std::chrono::milliseconds kLongestWait = std::chrono::hours(24);
+constexpr std::chrono::milliseconds kLongestDeadline = std::chrono::hours(24 * 365);
+
 // What an observer may see of a URL: its path, without scheme, host, user info, query or fragment.
 std::string urlPath(std::string_view url) {
   url = url.substr(0, url.find_first_of("?#"));
@@ -196,7 +200,7 @@ std::vector<Client::Part> Client::typedParts(const std::vector<APIMimeBody>& bod
 std::optional<std::chrono::milliseconds> Client::retryDelay(int retry,
                                                             std::optional<std::chrono::seconds> retryAfter) const {
   using std::chrono::milliseconds;
-  const milliseconds cap = std::max(options_.maxBackoff, milliseconds(0));
+  const milliseconds cap = std::clamp(options_.maxBackoff, milliseconds(0), kLongestWait);
   // Compared in whole seconds, so that no Retry-After, however large, overflows a conversion.
   if (retryAfter && *retryAfter > std::chrono::duration_cast<std::chrono::seconds>(cap)) return std::nullopt;
   // backoff * 2^(retry - 1), doubled a step at a time so that it stops at the cap instead of overflowing.
@@ -220,8 +224,9 @@ std::string Client::exchange(HttpRequest& http) {
   // Only GET is repeated: a POST that may have reached the service is never sent twice.
   const int retries = http.method == "GET" ? std::clamp(options_.maxRetries, 0, ClientOptions::kMaxRetries) : 0;
   // Without a deadline, a time no call reaches.
-  const Clock::time_point end =
-      options_.deadline ? Clock::now() + std::max(*options_.deadline, milliseconds(1)) : Clock::time_point::max();
+  const Clock::time_point end = options_.deadline
+                                    ? Clock::now() + std::clamp(*options_.deadline, milliseconds(1), kLongestDeadline)
+                                    : Clock::time_point::max();
   const milliseconds timeout = std::max(options_.timeout, milliseconds(1));
   const std::string path = options_.observer ? urlPath(http.url) : std::string();
   for (int attempt = 1;; ++attempt) {

@@ -243,6 +243,17 @@ TEST(HostHostile, RetriesAreBoundedAndOnlyForWhatMayPass) {
          o.maxBackoff = milliseconds(2);
        },
        ClientOptions::kMaxRetries + 1, Outcome::http, milliseconds(0), milliseconds(3000)},
+      {"the longest durations do not overflow",
+       {Action::unavailable, Action::ok},
+       [](ClientOptions& o) {
+         o.maxRetries = 1;
+         o.maxBackoff = milliseconds::max();
+         o.deadline = milliseconds::max();
+       },
+       2,
+       Outcome::ok,
+       milliseconds(0),
+       milliseconds(1000)},
       {"a negative retry count is none", alwaysBusy, [](ClientOptions& o) { o.maxRetries = -5; }, 1, Outcome::http,
        milliseconds(0), milliseconds(1000)},
       {"the deadline stops the retries", alwaysBusy,
