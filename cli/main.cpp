@@ -5,8 +5,10 @@
 #include <QBComponentAPI/user/dict/UserDict.hpp>
 #include <QBComponentAPI/user/typed/UserTyped.hpp>
 #include <fstream>
+#include <iomanip>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 
 #include "cli/KeptMock.hpp"
 #include "cli/Registry.hpp"
@@ -89,14 +91,30 @@ std::pair<Exit, std::string> describeFailure(const qb::Error& error) {
 // its session) when `mayUseKept` and one is running, else against an in-process mock service. Maps every
 // failure to its exit code.
 // Plain http is refused unless `insecureLoopback` is set (and the host is a loopback address); the
-// in-process mock service always implies it.
+// in-process mock service always implies it. `verbose` prints a line per HTTP attempt to stderr.
 int withClient(const std::string& baseUrl, const std::optional<std::string>& token,
-               const std::optional<std::string>& envelope, bool insecureLoopback,
+               const std::optional<std::string>& envelope, bool insecureLoopback, bool verbose,
                const std::function<void(qb::host::Client&)>& body, bool mayUseKept = true) {
   std::optional<qb::mock::Service> mock;
   std::optional<qb::cli::KeptMock> kept;
   qb::host::ClientOptions options{.baseUrl = baseUrl, .envelopeKey = envelope};
   options.allowInsecureLoopback = insecureLoopback;
+  if (verbose) {
+    // Method, path, attempt, outcome, size and time: what the observer is given, which never includes the
+    // token, the query or a body.
+    options.observer = [](const qb::host::Attempt& a) {
+      std::ostringstream line;
+      line << "qbapi: " << a.method << " " << a.path << " attempt " << a.number << ": ";
+      if (a.failure.empty()) {
+        line << "HTTP " << a.status;
+      } else {
+        line << "failed (" << a.failure << ")";
+      }
+      line << ", " << a.bytesReceived << " bytes, " << std::fixed << std::setprecision(1)
+           << static_cast<double>(a.duration.count()) / 1000.0 << " ms\n";
+      std::cerr << line.str();
+    };
+  }
   try {
     if (baseUrl.empty() && mayUseKept) kept = qb::cli::findKeptMock();
     if (kept) {
@@ -239,6 +257,7 @@ int main(int argc, char** argv) {
   std::string baseUrl;
   std::optional<std::string> token, envelope;
   bool insecureLoopback = false;
+  bool verbose = false;
   auto addConnection = [&](CLI::App* cmd) {
     cmd->add_option("--base-url", baseUrl, "service URL; without it an in-process mock service answers");
     cmd->add_option("--token", token, "access token for endpoints that need a session");
@@ -246,6 +265,9 @@ int main(int argc, char** argv) {
     cmd->add_flag("--allow-insecure-loopback", insecureLoopback,
                   "accept a plain http:// --base-url on a loopback address (127.0.0.1, ::1, localhost), "
                   "e.g. a separately started qbapi-mock; implied for the in-process mock");
+    cmd->add_flag("--verbose", verbose,
+                  "print one line per HTTP attempt to stderr: method, path, attempt number, status or failure, "
+                  "bytes received and time (never the token, the query or a body)");
   };
 
   bool markdown = false;
@@ -326,7 +348,7 @@ int main(int argc, char** argv) {
     }
   }
   if (app.got_subcommand("collection")) {
-    return withClient(baseUrl, token, envelope, insecureLoopback, [&](qb::host::Client& client) {
+    return withClient(baseUrl, token, envelope, insecureLoopback, verbose, [&](qb::host::Client& client) {
       if (baseUrl.empty() && !client.hasAccessToken()) {
         auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
         client.send(*init);
@@ -350,7 +372,7 @@ int main(int argc, char** argv) {
                    "it uses, so --base-url and --token are refused (use qbapi call for a real service)\n";
       return kUsage;
     }
-    return withClient(baseUrl, token, envelope, insecureLoopback, demo, /*mayUseKept=*/false);
+    return withClient(baseUrl, token, envelope, insecureLoopback, verbose, demo, /*mayUseKept=*/false);
   }
 
   const qb::cli::Entry* entry = qb::cli::findEntry(name);
@@ -374,7 +396,7 @@ int main(int argc, char** argv) {
     std::cerr << e.what() << "\n";
     return kUsage;
   }
-  return withClient(baseUrl, token, envelope, insecureLoopback, [&](qb::host::Client& client) {
+  return withClient(baseUrl, token, envelope, insecureLoopback, verbose, [&](qb::host::Client& client) {
     // Without a service of its own the tool opens a session on the mock first, so that calls needing one work.
     if (baseUrl.empty() && !client.hasAccessToken() && entry->endpoint->needAuth()) {
       auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));

@@ -4,6 +4,8 @@
 
 #include "Url.hpp"
 
+#include <algorithm>
+#include <cmath>
 #include <random>
 #include <thread>
 
@@ -74,12 +76,29 @@ std::string printable(std::string_view body) {
 
 bool retryableStatus(long status) { return status == 429 || status == 502 || status == 503 || status == 504; }
 
+// Bounds on the durations a call adds to the clock, so that none overflows a time point whatever the options.
+constexpr std::chrono::milliseconds kLongestWait = std::chrono::hours(24);
+constexpr std::chrono::milliseconds kLongestDeadline = std::chrono::hours(24 * 365);
+
+// What an observer may see of a URL: its path, without scheme, host, user info, query or fragment.
+std::string urlPath(std::string_view url) {
+  url = url.substr(0, url.find_first_of("?#"));
+  const auto schemeEnd = url.find("://");
+  const auto slash = url.find('/', schemeEnd == std::string_view::npos ? 0 : schemeEnd + 3);
+  return slash == std::string_view::npos ? "/" : std::string(url.substr(slash));
+}
+
 }  // namespace
 
-HttpError::HttpError(long status, std::string body)
+HttpError::HttpError(long status, std::string body, std::optional<std::chrono::seconds> retryAfter)
     : HostError("HTTP status " + std::to_string(status) + ": " + printable(std::string_view(body).substr(0, 512))),
       status_(status),
-      body_(std::move(body)) {
+      body_(std::move(body)),
+      retryAfter_(retryAfter) {
+  if (body_.size() > kKeptBodyBytes) {
+    body_.resize(kKeptBodyBytes);
+    body_.shrink_to_fit();
+  }
   // Read once here, so that the accessors are plain. Any body may come back (an HTML error page, a proxy's
   // text, nothing): a body that is not JSON leaves both unset rather than throwing.
   JsonValue reply;
@@ -132,6 +151,7 @@ HttpRequest Client::prepare(std::string_view api, std::string_view verb, bool fo
   if (!http.url.empty() && http.url.back() != '/') http.url += '/';
   http.url += api;
   http.timeout = options_.timeout;
+  http.maxReplyBytes = options_.maxReplyBytes;
   std::lock_guard lock(mutex_);
   if (needAuth && token_) {
     http.headers.emplace_back("Authorization", "Bearer " + *token_);
@@ -177,30 +197,78 @@ std::vector<Client::Part> Client::typedParts(const std::vector<APIMimeBody>& bod
   return parts;
 }
 
-std::string Client::exchange(const HttpRequest& http) {
+std::optional<std::chrono::milliseconds> Client::retryDelay(int retry,
+                                                            std::optional<std::chrono::seconds> retryAfter) const {
+  using std::chrono::milliseconds;
+  const milliseconds cap = std::clamp(options_.maxBackoff, milliseconds(0), kLongestWait);
+  // Compared in whole seconds, so that no Retry-After, however large, overflows a conversion.
+  if (retryAfter && *retryAfter > std::chrono::duration_cast<std::chrono::seconds>(cap)) return std::nullopt;
+  // backoff * 2^(retry - 1), doubled a step at a time so that it stops at the cap instead of overflowing.
+  milliseconds delay = std::clamp(options_.backoff, milliseconds(0), cap);
+  for (int i = 1; i < retry && delay < cap; ++i) delay = delay > cap / 2 ? cap : delay * 2;
+  thread_local std::mt19937 random{std::random_device{}()};
+  std::uniform_real_distribution<double> jitter(0.5, 1.5);
+  const double jittered =
+      std::min(static_cast<double>(delay.count()) * jitter(random), static_cast<double>(cap.count()));
+  delay = milliseconds(std::llround(jittered));
+  if (retryAfter) delay = std::max(delay, milliseconds(std::max(*retryAfter, std::chrono::seconds(0))));
+  return delay;
+}
+
+std::string Client::exchange(HttpRequest& http) {
+  using Clock = std::chrono::steady_clock;
+  using std::chrono::milliseconds;
   // Every header this client built, checked once more where they leave it.
   for (const auto& [name, value] : http.headers) checkHeaderValue("The " + name + " header", value);
   checkHeaderValue("The content type", http.contentType);
   // Only GET is repeated: a POST that may have reached the service is never sent twice.
-  const int attempts = http.method == "GET" ? 1 + std::max(0, options_.maxRetries) : 1;
-  thread_local std::mt19937 random{std::random_device{}()};
+  const int retries = http.method == "GET" ? std::clamp(options_.maxRetries, 0, ClientOptions::kMaxRetries) : 0;
+  // Without a deadline, a time no call reaches.
+  const Clock::time_point end = options_.deadline
+                                    ? Clock::now() + std::clamp(*options_.deadline, milliseconds(1), kLongestDeadline)
+                                    : Clock::time_point::max();
+  const milliseconds timeout = std::max(options_.timeout, milliseconds(1));
+  const std::string path = options_.observer ? urlPath(http.url) : std::string();
   for (int attempt = 1;; ++attempt) {
+    const Clock::time_point began = Clock::now();
+    // A timeout of zero would be none at all to a transport: an attempt always gets at least a millisecond.
+    http.timeout = options_.deadline
+                       ? std::clamp(std::chrono::duration_cast<milliseconds>(end - began), milliseconds(1), timeout)
+                       : timeout;
+    Attempt seen{.method = http.method, .path = path, .number = attempt};
+    auto observe = [&] {
+      if (!options_.observer) return;
+      seen.duration = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - began);
+      options_.observer(seen);
+    };
     std::optional<TransportError> failure;
     HttpResponse response;
     try {
       response = transport_->send(http);
+      seen.status = response.status;
+      seen.bytesReceived = response.bytesReceived;
     } catch (const TransportError& error) {
       failure = error;
+      seen.failure = error.what();
+    } catch (const ReplyTooLargeError& error) {
+      seen.failure = error.what();
+      seen.bytesReceived = error.received();
+      observe();
+      throw;
     }
-    const bool retry = failure || retryableStatus(response.status);
-    if (!retry && response.status >= 200 && response.status < 300) return std::move(response.body);
-    if (!retry || attempt >= attempts) {
+    observe();
+    if (!failure && response.status >= 200 && response.status < 300) return std::move(response.body);
+
+    const bool transient = failure ? failure->transient() : retryableStatus(response.status);
+    std::optional<milliseconds> wait;
+    if (transient && attempt <= retries) wait = retryDelay(attempt, failure ? std::nullopt : response.retryAfter);
+    // No retry that could not begin before the deadline.
+    if (wait && options_.deadline && Clock::now() + *wait >= end) wait.reset();
+    if (!wait) {
       if (failure) throw *failure;
-      throw HttpError(response.status, std::move(response.body));
+      throw HttpError(response.status, std::move(response.body), response.retryAfter);
     }
-    const auto base = options_.backoff * (1 << (attempt - 1));
-    std::uniform_real_distribution<double> jitter(0.5, 1.5);
-    std::this_thread::sleep_for(std::chrono::duration_cast<std::chrono::milliseconds>(base * jitter(random)));
+    std::this_thread::sleep_for(*wait);
   }
 }
 

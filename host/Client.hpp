@@ -2,6 +2,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -28,24 +30,53 @@ class HostError : public qb::Error {
 // The service answered with a status other than 2xx.
 class HttpError : public HostError {
  public:
-  HttpError(long status, std::string body);
+  // The most of an error body an HttpError keeps (and the curl transport receives into memory): the
+  // service's explanation or the start of an error page, never a hostile server's megabytes.
+  static constexpr std::size_t kKeptBodyBytes = 4096;
+
+  HttpError(long status, std::string body, std::optional<std::chrono::seconds> retryAfter = std::nullopt);
   long status() const noexcept { return status_; }
+  // The first kKeptBodyBytes of the reply body.
   const std::string& body() const noexcept { return body_; }
   // The service's explanation, when the body is a JSON object with these members as strings:
   // {"error": "wrong_password", "message": "the password does not match"}. Otherwise std::nullopt.
   const std::optional<std::string>& error() const noexcept { return error_; }
   const std::optional<std::string>& message() const noexcept { return message_; }
+  // How long the service asked to be left alone (Retry-After), when it said.
+  const std::optional<std::chrono::seconds>& retryAfter() const noexcept { return retryAfter_; }
 
  private:
   long status_;
   std::string body_;
   std::optional<std::string> error_;
   std::optional<std::string> message_;
+  std::optional<std::chrono::seconds> retryAfter_;
 };
-// No answer: connection refused or dropped, time-out, name resolution. Raised by transports.
+// No answer: connection refused or dropped, time-out, name resolution, TLS. Raised by transports.
 class TransportError : public HostError {
  public:
-  using HostError::HostError;
+  explicit TransportError(const std::string& message, bool transient = true)
+      : HostError(message), transient_(transient) {}
+  // Whether the same request may succeed if sent again: a refused, reset or dropped connection, a time-out,
+  // a name that did not resolve. Not a TLS failure (a certificate that does not verify), nor a URL or scheme
+  // the transport cannot use. A transport that does not say is taken as transient.
+  bool transient() const noexcept { return transient_; }
+
+ private:
+  bool transient_;
+};
+// The reply passed ClientOptions::maxReplyBytes (counted after decoding); receiving stopped there.
+class ReplyTooLargeError : public HostError {
+ public:
+  ReplyTooLargeError(const std::string& message, std::size_t limit, std::size_t received)
+      : HostError(message), limit_(limit), received_(received) {}
+  std::size_t limit() const noexcept { return limit_; }
+  // The body bytes taken in before receiving stopped: at most the limit.
+  std::size_t received() const noexcept { return received_; }
+
+ private:
+  std::size_t limit_;
+  std::size_t received_;
 };
 // The endpoint insists on a session and the app has set no access token; nothing was sent.
 class AuthRequiredError : public HostError {
@@ -70,19 +101,49 @@ class InvalidUrlError : public HostError {
   using HostError::HostError;
 };
 
+// One attempt of a call, as ClientOptions::observer sees it. It never holds the token, another header or a
+// body.
+struct Attempt {
+  std::string method;                    // "GET" or "POST"
+  std::string path;                      // the URL's path: no scheme, host, user info or query
+  int number = 1;                        // 1 for a call's first attempt, 2 for its first retry, ...
+  long status = 0;                       // the reply's HTTP status; 0 when no reply came
+  std::string failure{};                 // why no usable reply came (the error's text); empty with a status
+  std::size_t bytesReceived = 0;         // reply body bytes, after decoding
+  std::chrono::microseconds duration{};  // from sending to the reply or the failure
+};
+
 struct ClientOptions {
+  // The most retries a client makes, whatever maxRetries says.
+  static constexpr int kMaxRetries = 10;
+
   std::string baseUrl;                 // "https://api.example.com/" (the path "v3/..." is appended)
   bool allowInsecureLoopback = false;  // accept http:// for 127.0.0.0/8 (dotted quad), localhost and [::1]
-  std::chrono::milliseconds timeout{15000};
-  int maxRetries = 2;                      // extra attempts for GET on transport failures and 429/502/503/504
+  std::chrono::milliseconds timeout{15000};  // for one attempt, connecting included
+  // Extra attempts for GET (never POST) on transient transport failures (TransportError::transient()) and
+  // on 429/502/503/504; clamped to 0..kMaxRetries.
+  int maxRetries = 2;
   std::chrono::milliseconds backoff{200};  // first retry delay; doubles each time, with ±50% jitter
+  // No wait between attempts is longer. A Retry-After the service sends is waited out when it is within
+  // this cap; a longer one ends the retries (the HttpError carries it).
+  std::chrono::milliseconds maxBackoff{5000};
+  // For a whole call, every attempt and wait included: each attempt's timeout is cut to what remains and no
+  // retry starts that could not begin before it. std::nullopt: only the per-attempt timeout bounds a call.
+  std::optional<std::chrono::milliseconds> deadline = std::nullopt;
+  // The largest reply body accepted, counted after gzip/deflate decoding; a larger one fails the call with
+  // ReplyTooLargeError once this many bytes have arrived, without holding more.
+  std::size_t maxReplyBytes = 64 * 1024 * 1024;
   std::optional<std::string> envelopeKey = std::nullopt;  // when replies wrap the result keys: {"data": {...}}
+  // Called after every attempt, on the thread that sends (so on several at once when threads share the
+  // client); what it throws reaches the caller of send.
+  std::function<void(const Attempt&)> observer = nullptr;
 };
 
 class Collection;
 struct CollectionOptions;
 
-// Thread-safe: one client may serve every thread of an app; the transport shares connections.
+// Thread-safe: one client may serve every thread of an app; the curl transport keeps connections open
+// between calls.
 class Client {
  public:
   // Uses the libcurl transport unless one is given.
@@ -130,7 +191,10 @@ class Client {
   HttpRequest prepare(std::string_view api, std::string_view verb, bool forceHttps, bool needAuth, bool mustAuth) const;
   static void appendQuery(HttpRequest& http, const JsonMap& params);
   static void multipart(HttpRequest& http, const JsonMap& fields, const std::vector<Part>& parts);
-  std::string exchange(const HttpRequest& http);
+  std::string exchange(HttpRequest& http);
+  // The wait before retry number `retry` (1 for the first), or std::nullopt when the service asked for a
+  // longer one than maxBackoff.
+  std::optional<std::chrono::milliseconds> retryDelay(int retry, std::optional<std::chrono::seconds> retryAfter) const;
   // The reply bytes the records read: the whole body, or the member under the envelope key.
   std::string payload(std::string body) const;
 
