@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QBComponentAPI/frame/DictModel.hpp>
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
 #include <QBComponentAPI/frame/QBMessageBase.hpp>
@@ -45,6 +46,33 @@ inline void expectRequiredParametersRaise(const std::function<std::shared_ptr<QB
     clear(*bare);
   }
   EXPECT_EQ(reasonOf([&] { bare->getParams(); }), required.empty() ? "<none>" : required.front().second);
+}
+
+// Builds a record of one Dictionary-face model class from a reply map.
+using Reader = std::function<std::shared_ptr<QBAPIModel>(const JsonMap&)>;
+
+template <class M>
+Reader reader() {
+  return [](const JsonMap& map) { return M::initWithJsonObject(map); };
+}
+
+// Each required key of a complete reply, left out or set to null, makes `read` raise its reason; with
+// every required key from the i-th on gone, the i-th is named, so the checks go in declared order.
+inline void expectRequiredKeysRaise(const Reader& read, const std::string& full,
+                                    const std::vector<std::pair<const char*, const char*>>& required) {
+  for (const auto& [key, reason] : required) {
+    JsonMap map = parseJsonMap(full);
+    map.erase(key);
+    EXPECT_EQ(reasonOf([&] { read(map); }), reason) << "without " << key;
+    map[key] = nullptr;
+    EXPECT_EQ(reasonOf([&] { read(map); }), reason) << "with null " << key;
+  }
+  for (std::size_t i = 0; i < required.size(); ++i) {
+    JsonMap bare = parseJsonMap(full);
+    for (std::size_t j = i; j < required.size(); ++j) bare.erase(required[j].first);
+    EXPECT_EQ(reasonOf([&] { read(bare); }), required[i].second) << "without the keys from " << i;
+  }
+  EXPECT_EQ(reasonOf([&] { read(parseJsonMap(full)); }), "<none>");
 }
 
 // Whether a message's one result is present.

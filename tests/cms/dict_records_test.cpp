@@ -16,13 +16,6 @@ namespace {
 
 using namespace fixtures::cms;
 
-using Reader = std::function<std::shared_ptr<QBAPIModel>(const JsonMap&)>;
-
-template <class M>
-Reader reader() {
-  return [](const JsonMap& map) { return M::initWithJsonObject(map); };
-}
-
 // Removes "cms_tags" from the simple content name(s) at `pointer` ("" for the map itself, or a list of
 // them): this face does not keep them, so they never come back from toDictionary.
 std::function<void(JsonValue&)> dropSimpleNameTags(const char* pointer, bool isList) {
@@ -146,17 +139,7 @@ TEST(CmsDictModels, FullRepliesRoundTripInDeclaredOrder) {
 TEST(CmsDictModels, EachMissingOrNullRequiredFieldRaisesItsReason) {
   for (const auto& row : rows()) {
     SCOPED_TRACE(row.name);
-    for (const auto& [key, reason] : row.required) {
-      JsonMap map = parseJsonMap(row.full);
-      map.erase(key);
-      EXPECT_EQ(reasonOf([&] { row.read(map); }), reason) << "without " << key;
-      map[key] = nullptr;
-      EXPECT_EQ(reasonOf([&] { row.read(map); }), reason) << "with null " << key;
-    }
-    // With every required key gone, the first in check order is named.
-    JsonMap bare = parseJsonMap(row.full);
-    for (const auto& [key, reason] : row.required) bare.erase(key);
-    EXPECT_EQ(reasonOf([&] { row.read(bare); }), row.required.empty() ? "<none>" : row.required.front().second);
+    expectRequiredKeysRaise(row.read, row.full, row.required);
   }
 }
 

@@ -15,13 +15,6 @@ namespace {
 
 using namespace fixtures::item;
 
-using Reader = std::function<std::shared_ptr<QBAPIModel>(const JsonMap&)>;
-
-template <class M>
-Reader reader() {
-  return [](const JsonMap& map) { return M::initWithJsonObject(map); };
-}
-
 struct ModelRow {
   const char* name;
   Reader read;
@@ -79,19 +72,7 @@ TEST(ItemDictModels, FullRepliesRoundTripInDeclaredOrder) {
 TEST(ItemDictModels, EachMissingOrNullRequiredFieldRaisesItsReason) {
   for (const auto& row : rows()) {
     SCOPED_TRACE(row.name);
-    for (const auto& [key, reason] : row.required) {
-      JsonMap map = parseJsonMap(row.full);
-      map.erase(key);
-      EXPECT_EQ(reasonOf([&] { row.read(map); }), reason) << "without " << key;
-      map[key] = nullptr;
-      EXPECT_EQ(reasonOf([&] { row.read(map); }), reason) << "with null " << key;
-    }
-    // With every required key from the i-th on gone, the i-th is named: the checks go in declared order.
-    for (std::size_t i = 0; i < row.required.size(); ++i) {
-      JsonMap bare = parseJsonMap(row.full);
-      for (std::size_t j = i; j < row.required.size(); ++j) bare.erase(row.required[j].first);
-      EXPECT_EQ(reasonOf([&] { row.read(bare); }), row.required[i].second) << "without the keys from " << i;
-    }
+    expectRequiredKeysRaise(row.read, row.full, row.required);
   }
 }
 

@@ -17,13 +17,6 @@ using namespace fixtures::support;
 
 JsonValue text(const char* s) { return JsonValue(s); }
 
-using Reader = std::function<std::shared_ptr<QBAPIModel>(const JsonMap&)>;
-
-template <class M>
-Reader reader() {
-  return [](const JsonMap& map) { return M::initWithJsonObject(map); };
-}
-
 struct ModelRow {
   const char* name;
   Reader read;
@@ -61,16 +54,7 @@ TEST(SupportDictModels, RoundTripAndRaiseForEachMissingOrNullRequiredFieldInOrde
     const auto model = row.read(parseJsonMap(row.full));
     EXPECT_EQ(model->modelName(), row.name);
     EXPECT_EQ(toJson(model->toDictionary()), toJson(parseJson(row.full))) << "every key, in declared order";
-    JsonMap bare = parseJsonMap(row.full);
-    for (const auto& [key, reason] : row.required) {
-      JsonMap map = parseJsonMap(row.full);
-      map.erase(key);
-      EXPECT_EQ(reasonOf([&] { row.read(map); }), reason) << "without " << key;
-      map[key] = nullptr;
-      EXPECT_EQ(reasonOf([&] { row.read(map); }), reason) << "with null " << key;
-      bare.erase(key);
-    }
-    EXPECT_EQ(reasonOf([&] { row.read(bare); }), row.required.empty() ? "<none>" : row.required.front().second);
+    expectRequiredKeysRaise(row.read, row.full, row.required);
   }
 }
 
