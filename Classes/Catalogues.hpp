@@ -19,11 +19,11 @@ using AllEndpoints =
     Concat<user::Endpoints, item::Endpoints, cms::Endpoints, share::Endpoints, support::Endpoints, vip::Endpoints>;
 using AllRecords = Concat<user::Records, item::Records, cms::Records, share::Records, support::Records, vip::Records>;
 
-// The name of every class of every catalogue, domain by domain.
+/// The name of every class of every catalogue, domain by domain.
 inline constexpr std::span<const std::string_view> kCatalogueClassNames[] = {
     user::kClassNames, item::kClassNames, cms::kClassNames, share::kClassNames, support::kClassNames, vip::kClassNames};
 
-// Every catalogue line with the class names of its faces, domain by domain.
+/// Every catalogue line with the class names of its faces, domain by domain.
 inline constexpr std::span<const EndpointNames> kCatalogueEndpointNames[] = {
     user::kEndpointNames,  item::kEndpointNames,    cms::kEndpointNames,
     share::kEndpointNames, support::kEndpointNames, vip::kEndpointNames};

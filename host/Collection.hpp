@@ -23,17 +23,17 @@
 namespace qb::host {
 
 struct CollectionOptions {
-  std::int64_t pageSize = 50;                         // items asked for per call; below 1 throws qb::Error
-  std::optional<std::int64_t> after = std::nullopt;  // a saved cursor(): start after this item
+  std::int64_t pageSize = 50;                         ///< items asked for per call; below 1 throws qb::Error
+  std::optional<std::int64_t> after = std::nullopt;  ///< a saved cursor(): start after this item
 };
 
-// A page held the item it was asked to start after, so paging would not advance.
+/// A page held the item it was asked to start after, so paging would not advance.
 class PagingError : public HostError {
  public:
   using HostError::HostError;
 };
 
-// Single-pass: iterate it once, from one thread. It refers to the client, which must outlive it.
+/// Single-pass: iterate it once, from one thread. It refers to the client, which must outlive it.
 class Collection {
  public:
   class iterator {
@@ -60,15 +60,15 @@ class Collection {
 
   Collection(Client& client, CollectionOptions options);
 
-  // Fetches the first page unless one is held already.
+  /// Fetches the first page unless one is held already.
   iterator begin();
   std::default_sentinel_t end() const noexcept { return {}; }
 
-  // The id of the last item handed out (the one the iterator is at), or the starting `after` before any.
+  /// The id of the last item handed out (the one the iterator is at), or the starting `after` before any.
   std::optional<std::int64_t> cursor() const noexcept { return cursor_; }
-  // Pages asked for so far.
+  /// Pages asked for so far.
   std::size_t pagesFetched() const noexcept { return pages_; }
-  // True once every item has been handed out.
+  /// True once every item has been handed out.
   bool done() const noexcept { return index_ >= page_.size() && last_; }
 
  private:
@@ -79,8 +79,8 @@ class Collection {
   CollectionOptions options_;
   std::vector<SimpleItemModel> page_;
   std::size_t index_ = 0;
-  bool last_ = false;     // no page follows the one held
-  bool started_ = false;  // the first page has been asked for
+  bool last_ = false;     ///< no page follows the one held
+  bool started_ = false;  ///< the first page has been asked for
   std::optional<std::int64_t> cursor_;
   std::size_t pages_ = 0;
 };

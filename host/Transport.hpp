@@ -13,37 +13,37 @@
 namespace qb::host {
 
 struct HttpRequest {
-  std::string method;  // "GET" or "POST"
-  std::string url;     // complete, with the query string
+  std::string method;  ///< "GET" or "POST"
+  std::string url;     ///< complete, with the query string
   std::vector<std::pair<std::string, std::string>> headers{};
-  std::string contentType{};  // of the body; empty when there is none
+  std::string contentType{};  ///< of the body; empty when there is none
   std::string body{};
   std::chrono::milliseconds timeout{15000};
-  // The most body bytes the reply may bring, counted after content decoding; more fails the exchange
-  // with ReplyTooLargeError.
+  /// The most body bytes the reply may bring, counted after content decoding; more fails the exchange
+  /// with ReplyTooLargeError.
   std::size_t maxReplyBytes{64 * 1024 * 1024};
 };
 
 struct HttpResponse {
   long status = 0;
-  // For a status other than 2xx only the first HttpError::kKeptBodyBytes are kept.
+  /// For a status other than 2xx only the first HttpError::kKeptBodyBytes are kept.
   std::string body{};
-  // How long the service asked the client to wait (Retry-After, as seconds or as an HTTP date).
+  /// How long the service asked the client to wait (Retry-After, as seconds or as an HTTP date).
   std::optional<std::chrono::seconds> retryAfter{};
-  // Body bytes received, after decoding, including those not kept.
+  /// Body bytes received, after decoding, including those not kept.
   std::size_t bytesReceived{};
 };
 
 class Transport {
  public:
   virtual ~Transport() = default;
-  // Performs the exchange. Throws TransportError when no complete answer arrives (transient() tells
-  // whether trying again may help) and ReplyTooLargeError when the answer passes request.maxReplyBytes.
+  /// Performs the exchange. Throws TransportError when no complete answer arrives (transient() tells
+  /// whether trying again may help) and ReplyTooLargeError when the answer passes request.maxReplyBytes.
   virtual HttpResponse send(const HttpRequest& request) = 0;
 };
 
-// libcurl. A pool of handles, each used by one thread at a time and keeping its own connections; the
-// handles share their DNS cache and TLS sessions.
+/// libcurl. A pool of handles, each used by one thread at a time and keeping its own connections; the
+/// handles share their DNS cache and TLS sessions.
 std::shared_ptr<Transport> makeCurlTransport();
 
 }  // namespace qb::host

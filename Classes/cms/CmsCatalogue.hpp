@@ -6,7 +6,7 @@
 
 #include <QBComponentAPI/frame/Catalogue.hpp>
 
-// constant, path, verb, authentication, Dictionary-face message, Typed-face request
+/// constant, path, verb, authentication, Dictionary-face message, Typed-face request
 #define QB_CMS_ENDPOINTS(BOTH, DICT, TYPED)                                                                   \
   BOTH(kArticles, "v3/cms/articles", get, required, QBCmsGetCmsArticlesMessage, CmsGetCmsArticlesRequest)    \
   BOTH(kGetCmsName, "v3/cms/get_cms_name", get, required, QBCmsGetCmsNameMessage, CmsGetCmsNameRequest)      \
@@ -23,7 +23,7 @@
   TYPED(kListSimpleItems, "v3/cms/list_simple_items", get, required, CmsListSimpleItemsRequest)               \
   TYPED(kGetBookList, "v3/cms/get_book_list", get, required, CmsGetBookListRequest)
 
-// Dictionary-face model, Typed-face model
+/// Dictionary-face model, Typed-face model
 #define QB_CMS_RECORDS(BOTH, DICT, TYPED)                    \
   BOTH(QBAPICmsName, CmsNameModel)                           \
   BOTH(QBAPICmsMain, CmsMainModel)                           \

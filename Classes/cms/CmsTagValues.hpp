@@ -24,22 +24,22 @@
 
 namespace qb {
 
-// The record of a tag value, one alternative per CmsTagValueType in raw-value order: index() is the
-// value's type.
+/// The record of a tag value, one alternative per CmsTagValueType in raw-value order: index() is the
+/// value's type.
 using CmsTagValueRecord = std::variant<CmsTagStringModel, CmsTagModel, CmsImageModel, CmsMainModel,
                                        CmsTaxonomyNameModel, CmsTagColorsModel>;
 
-// Typed face: decodes a tag value as the record its "type" names. Throws DecodingError: keyNotFound or
-// valueNotFound for a missing or null "type", dataCorrupted for a number that is no CmsTagValueType,
-// and the record's own errors (with their coding path) when the map does not have its shape.
+/// Typed face: decodes a tag value as the record its "type" names. Throws DecodingError: keyNotFound or
+/// valueNotFound for a missing or null "type", dataCorrupted for a number that is no CmsTagValueType,
+/// and the record's own errors (with their coding path) when the map does not have its shape.
 CmsTagValueRecord tagValueRecord(const std::map<std::string, AnyCodable>& value);
 
-// Dictionary face: builds the model object its "type" names (a QBAPICmsTagString, QBAPICmsTag,
-// QBAPICmsImage, QBAPICmsMain, QBAPICmsTaxonomyName or QBAPICmsTagColors). Throws JsonTypeError when
-// "type" is missing, null, not an integer or no CmsTagValueType, and the model's own
-// ParameterCheckFailException for a missing required field.
+/// Dictionary face: builds the model object its "type" names (a QBAPICmsTagString, QBAPICmsTag,
+/// QBAPICmsImage, QBAPICmsMain, QBAPICmsTaxonomyName or QBAPICmsTagColors). Throws JsonTypeError when
+/// "type" is missing, null, not an integer or no CmsTagValueType, and the model's own
+/// ParameterCheckFailException for a missing required field.
 std::shared_ptr<QBAPIModel> tagValueModel(const JsonMap& value);
-// The same for an element of a tag's `tagValues` list; JsonTypeError when it is not a map.
+/// The same for an element of a tag's `tagValues` list; JsonTypeError when it is not a map.
 std::shared_ptr<QBAPIModel> tagValueModel(const JsonValue& value);
 
 }  // namespace qb

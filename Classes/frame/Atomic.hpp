@@ -7,9 +7,9 @@
 
 namespace qb {
 
-// Holds one property of a Dictionary-face object. `load` returns a copy and `store` replaces the value
-// as one step, so a reader on another thread sees either the old or the new value, never a mix. The
-// lock is held only to copy or swap; the old value is destroyed after it is released.
+/// Holds one property of a Dictionary-face object. `load` returns a copy and `store` replaces the value
+/// as one step, so a reader on another thread sees either the old or the new value, never a mix. The
+/// lock is held only to copy or swap; the old value is destroyed after it is released.
 template <class T>
 class Atomic {
  public:

@@ -26,7 +26,7 @@
 
 namespace qb {
 
-// Stands in a catalogue entry for the face an endpoint or record does not have.
+/// Stands in a catalogue entry for the face an endpoint or record does not have.
 struct NoFace;
 
 template <class T>
@@ -37,7 +37,7 @@ struct TypeList {
   static constexpr std::size_t size = sizeof...(T);
 };
 
-// One endpoint: its constant and the class of each face (NoFace where it has none).
+/// One endpoint: its constant and the class of each face (NoFace where it has none).
 template <const Endpoint& E, class Message, class Request>
 struct Api {
   static constexpr const Endpoint& endpoint = E;
@@ -45,14 +45,14 @@ struct Api {
   using TypedRequest = Request;
 };
 
-// One record: the class of each face (NoFace where it has none).
+/// One record: the class of each face (NoFace where it has none).
 template <class DictionaryModel, class TypedModel>
 struct Record {
   using Dictionary = DictionaryModel;
   using Typed = TypedModel;
 };
 
-// A catalogue line's endpoint and the class names of its faces (empty for a face it lacks).
+/// A catalogue line's endpoint and the class names of its faces (empty for a face it lacks).
 struct EndpointNames {
   const Endpoint* endpoint;
   std::string_view message;
@@ -73,8 +73,8 @@ constexpr Faces facesOf() {
 
 namespace detail {
 
-// The macros below list types with a comma after each; the list ends with this marker, which
-// WithoutEnd drops.
+/// The macros below list types with a comma after each; the list ends with this marker, which
+/// WithoutEnd drops.
 struct EndOfList;
 
 template <class Done, class... Rest>
@@ -91,7 +91,7 @@ using WithoutEnd = typename WithoutEndImpl<TypeList<>, T...>::type;
 
 }  // namespace detail
 
-// Concatenation of type lists.
+/// Concatenation of type lists.
 template <class... Lists>
 struct ConcatImpl;
 template <>
@@ -107,15 +107,15 @@ struct ConcatImpl<TypeList<A...>, TypeList<B...>, Rest...> : ConcatImpl<TypeList
 template <class... Lists>
 using Concat = typename ConcatImpl<Lists...>::type;
 
-// Calls f.template operator()<T>() for each T of the list, in order.
+/// Calls f.template operator()<T>() for each T of the list, in order.
 template <class... T, class F>
 constexpr void forEachType(TypeList<T...>, F&& f) {
   (f.template operator()<T>(), ...);
 }
 
-// Whether an endpoint (a qb::Api) repeats the path of an earlier entry of the list: the line of a
-// further Dictionary-face message of an endpoint that already has its line. Everything that lists
-// endpoints counts such a path once, under its first line.
+/// Whether an endpoint (a qb::Api) repeats the path of an earlier entry of the list: the line of a
+/// further Dictionary-face message of an endpoint that already has its line. Everything that lists
+/// endpoints counts such a path once, under its first line.
 template <class A, class... All>
 constexpr bool repeatsPath(TypeList<All...>) {
   bool reached = false, repeats = false;
@@ -171,10 +171,10 @@ constexpr bool repeatsPath(TypeList<All...>) {
 #define QB_CATALOGUE_NAMES_DICT_(constant, path, verb, auth, Message) ::qb::EndpointNames{&constant, #Message, {}},
 #define QB_CATALOGUE_NAMES_TYPED_(constant, path, verb, auth, Request) ::qb::EndpointNames{&constant, {}, #Request},
 
-// Declares, in namespace qb::<domain>: the endpoint constants (kGetConfig, ...), `Endpoints` (a TypeList
-// of qb::Api) and `Records` (a TypeList of qb::Record), and `kClassNames`, the name of every class of
-// the catalogue (messages, requests, records), for checks against the source tree, and `kEndpointNames`,
-// each line's endpoint with the names of its face classes, for listings.
+/// Declares, in namespace qb::<domain>: the endpoint constants (kGetConfig, ...), `Endpoints` (a TypeList
+/// of qb::Api) and `Records` (a TypeList of qb::Record), and `kClassNames`, the name of every class of
+/// the catalogue (messages, requests, records), for checks against the source tree, and `kEndpointNames`,
+/// each line's endpoint with the names of its face classes, for listings.
 #define QB_CATALOGUE(domain, ENDPOINTS, RECORDS)                                                                    \
   namespace qb {                                                                                                    \
   ENDPOINTS(QB_CATALOGUE_FORWARD_BOTH_, QB_CATALOGUE_FORWARD_DICT_, QB_CATALOGUE_FORWARD_TYPED_)                    \
@@ -195,8 +195,8 @@ constexpr bool repeatsPath(TypeList<All...>) {
 
 namespace qb {
 
-// Whether a face class declares the same endpoint as its catalogue line (checked where the classes are
-// complete, by the domain's definitions).
+/// Whether a face class declares the same endpoint as its catalogue line (checked where the classes are
+/// complete, by the domain's definitions).
 constexpr bool sameEndpoint(const Endpoint& a, const Endpoint& b) {
   return a.path == b.path && a.verb == b.verb && a.auth == b.auth && a.faces == b.faces;
 }
@@ -205,8 +205,8 @@ constexpr bool sameEndpoint(const Endpoint& a, const Endpoint& b) {
 
 namespace qb {
 
-// The classes of one face among a catalogue's records or endpoints. Responses need the requests to be
-// complete, so these are used where the domain's umbrella headers are included.
+/// The classes of one face among a catalogue's records or endpoints. Responses need the requests to be
+/// complete, so these are used where the domain's umbrella headers are included.
 template <class Records>
 struct DictionaryModelsOf;
 template <class... R>

@@ -32,8 +32,8 @@
 
 namespace qb {
 
-// One coding key: the JSON key and the member it codes. A file key marks a request's file member, which
-// is never encoded: the request turns it into a multipart body.
+/// One coding key: the JSON key and the member it codes. A file key marks a request's file member, which
+/// is never encoded: the request turns it into a multipart body.
 template <class Owner, class T, bool File = false>
 struct CodingKey {
   using Member = T;
@@ -60,7 +60,7 @@ constexpr std::tuple<Keys...> codingKeys(Keys... keys) {
   return std::tuple<Keys...>{keys...};
 }
 
-// A record with a coding-key declaration.
+/// A record with a coding-key declaration.
 template <class T>
 concept Codable = requires { std::tuple_size<std::remove_cv_t<decltype(T::codingKeys)>>::value; };
 
@@ -96,12 +96,12 @@ struct CodingKeyNames {
   }();
 };
 
-// A record's coding keys in a collision-free hash table, so that a key in a reply is matched with one
-// hash and one comparison however many keys the record has.
+/// A record's coding keys in a collision-free hash table, so that a key in a reply is matched with one
+/// hash and one comparison however many keys the record has.
 template <class T>
 struct KeyTable : NameTable<CodingKeyNames<T>::names> {};
 
-// Calls f(std::integral_constant<std::size_t, I>{}) for the key index I equal to the runtime `index`.
+/// Calls f(std::integral_constant<std::size_t, I>{}) for the key index I equal to the runtime `index`.
 template <class T, class F>
 constexpr void visitKeyIndex(int index, F&& f) {
   [&]<std::size_t... I>(std::index_sequence<I...>) {
@@ -109,7 +109,7 @@ constexpr void visitKeyIndex(int index, F&& f) {
   }(std::make_index_sequence<keyCount<T>>{});
 }
 
-// Calls f(key) for the key with runtime index `index`.
+/// Calls f(key) for the key with runtime index `index`.
 template <class T, class F>
 constexpr void visitKey(int index, F&& f) {
   visitKeyIndex<T>(index, [&](auto i) { f(std::get<decltype(i)::value>(T::codingKeys)); });
@@ -117,7 +117,7 @@ constexpr void visitKey(int index, F&& f) {
 
 }  // namespace detail
 
-// The index of the coding key whose JSON key is exactly `text`, or std::nullopt. (Keys have no integer form.)
+/// The index of the coding key whose JSON key is exactly `text`, or std::nullopt. (Keys have no integer form.)
 template <Codable T>
 constexpr std::optional<std::size_t> codingKeyIndex(std::string_view text) noexcept {
   const int index = detail::KeyTable<T>::find(text);

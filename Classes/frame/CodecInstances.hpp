@@ -29,12 +29,12 @@
 #define QB_CODEC_DEFINE_RECORD_TYPED_(Typed) QB_CODEC_INSTANCES_(, qb::Typed)
 #define QB_CODEC_SKIP_RECORD_DICT_(Dictionary)
 
-// At the end of a domain's Typed-face umbrella header, at global scope.
+/// At the end of a domain's Typed-face umbrella header, at global scope.
 #define QB_CODEC_EXTERN_DOMAIN(ENDPOINTS, RECORDS)                                          \
   ENDPOINTS(QB_CODEC_EXTERN_API_BOTH_, QB_CODEC_SKIP_API_DICT_, QB_CODEC_EXTERN_API_TYPED_) \
   RECORDS(QB_CODEC_EXTERN_RECORD_BOTH_, QB_CODEC_SKIP_RECORD_DICT_, QB_CODEC_EXTERN_RECORD_TYPED_)
 
-// In the domain's Typed-face .cpp file, after its umbrella header, at global scope.
+/// In the domain's Typed-face .cpp file, after its umbrella header, at global scope.
 #define QB_CODEC_DEFINE_DOMAIN(ENDPOINTS, RECORDS)                                          \
   ENDPOINTS(QB_CODEC_DEFINE_API_BOTH_, QB_CODEC_SKIP_API_DICT_, QB_CODEC_DEFINE_API_TYPED_) \
   RECORDS(QB_CODEC_DEFINE_RECORD_BOTH_, QB_CODEC_SKIP_RECORD_DICT_, QB_CODEC_DEFINE_RECORD_TYPED_)

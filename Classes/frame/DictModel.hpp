@@ -31,33 +31,33 @@
 
 namespace qb {
 
-// The common face of every Dictionary-face model.
+/// The common face of every Dictionary-face model.
 class QBAPIModel {
  public:
   virtual ~QBAPIModel() = default;
   QBAPIModel(const QBAPIModel&) = delete;
   QBAPIModel& operator=(const QBAPIModel&) = delete;
 
-  // A new map with every present property under its JSON key (integers always, nested models as
-  // their own maps, lists through qb::toDictionary).
+  /// A new map with every present property under its JSON key (integers always, nested models as
+  /// their own maps, lists through qb::toDictionary).
   virtual JsonMap toDictionary() const = 0;
-  // toDictionary() as indented JSON text; std::nullopt when it cannot be written as JSON (for example
-  // a non-finite number or invalid UTF-8 that the app set).
+  /// toDictionary() as indented JSON text; std::nullopt when it cannot be written as JSON (for example
+  /// a non-finite number or invalid UTF-8 that the app set).
   std::optional<std::string> toJsonString() const;
-  // The class name without its prefix ("AutoUpdate"), as used in ParameterCheckFailException reasons.
+  /// The class name without its prefix ("AutoUpdate"), as used in ParameterCheckFailException reasons.
   virtual std::string_view modelName() const = 0;
 
  protected:
   QBAPIModel() = default;
 };
 
-// The "integer" reading of a value: an integer as it is (clamped to int64), a double truncated toward
-// zero and clamped (NaN gives 0), a boolean 0 or 1, a text by its leading decimal integer (leading white
-// space skipped, optional sign, 0 without digits, clamped on overflow). Null, lists and maps throw
-// JsonTypeError naming `key`.
+/// The "integer" reading of a value: an integer as it is (clamped to int64), a double truncated toward
+/// zero and clamped (NaN gives 0), a boolean 0 or 1, a text by its leading decimal integer (leading white
+/// space skipped, optional sign, 0 without digits, clamped on overflow). Null, lists and maps throw
+/// JsonTypeError naming `key`.
 std::int64_t toInteger(const JsonValue& value, std::string_view key = {});
 
-// The host's list-level operations: each model as its own map, plain elements as they are.
+/// The host's list-level operations: each model as its own map, plain elements as they are.
 template <class Model>
 JsonList toDictionary(const std::vector<std::shared_ptr<Model>>& models) {
   JsonList list;
@@ -66,7 +66,7 @@ JsonList toDictionary(const std::vector<std::shared_ptr<Model>>& models) {
   return list;
 }
 JsonList toDictionary(const JsonList& list);
-// A list as indented JSON text, or std::nullopt when it cannot be written as JSON.
+/// A list as indented JSON text, or std::nullopt when it cannot be written as JSON.
 template <class Model>
 std::optional<std::string> toJsonString(const std::vector<std::shared_ptr<Model>>& models) {
   return toPrettyJson(JsonValue(toDictionary(models)));
@@ -75,8 +75,8 @@ std::optional<std::string> toJsonString(const JsonList& list);
 
 namespace dict {
 
-// One entry of a class's field table: the JSON key, the property's name (used in reasons), where the
-// property lives, and whether it is required.
+/// One entry of a class's field table: the JSON key, the property's name (used in reasons), where the
+/// property lives, and whether it is required.
 template <class Owner, class T>
 struct Field {
   std::string_view key;
@@ -84,8 +84,8 @@ struct Field {
   Atomic<T> Owner::*member;
   bool required;
 
-  // Whether a message's getParams always puts this parameter in its map: an integer always (it cannot be
-  // absent), any other parameter when it is required (absent, getParams raises instead).
+  /// Whether a message's getParams always puts this parameter in its map: an integer always (it cannot be
+  /// absent), any other parameter when it is required (absent, getParams raises instead).
   constexpr bool alwaysSent() const noexcept { return required || std::is_same_v<T, std::int64_t>; }
 };
 
@@ -102,8 +102,8 @@ constexpr std::tuple<F...> fields(F... entries) {
 
 }  // namespace dict
 
-// Base of every message class `Derived`. Derived opens with QB_DICT_MESSAGE (its endpoint and action
-// name) and declares its parameter and result tables with QB_PARAMS and QB_RESULTS.
+/// Base of every message class `Derived`. Derived opens with QB_DICT_MESSAGE (its endpoint and action
+/// name) and declares its parameter and result tables with QB_PARAMS and QB_RESULTS.
 template <class Derived>
 class DictMessage : public QBMessageBase {
  public:
@@ -115,8 +115,8 @@ class DictMessage : public QBMessageBase {
   bool mustAuth() const final { return Derived::kEndpoint.mustAuth(); }
 
  protected:
-  // A new message with the given values stored in the given properties, in order:
-  //   return make<&Self::languageCode_, &Self::countryCode_>(languageCode, std::move(countryCode));
+  /// A new message with the given values stored in the given properties, in order:
+  ///   return make<&Self::languageCode_, &Self::countryCode_>(languageCode, std::move(countryCode));
   template <auto... Members, class... Args>
   static std::shared_ptr<Derived> make(Args&&... values) {
     static_assert(sizeof...(Members) == sizeof...(Args));
@@ -140,30 +140,30 @@ class DictMessage : public QBMessageBase {
                                                               \
  public:
 
-// A plain value: text, number, boolean, kept exactly as the reply gave it.
+/// A plain value: text, number, boolean, kept exactly as the reply gave it.
 #define QB_VALUE(name, Name) QB_DICT_PROPERTY_(std::optional<::qb::JsonValue>, name, Name)
-// An integer or enumeration: never absent, 0 when the key is missing.
+/// An integer or enumeration: never absent, 0 when the key is missing.
 #define QB_INTEGER(name, Name) QB_DICT_PROPERTY_(std::int64_t, name, Name)
-// A nested model (empty pointer when absent).
+/// A nested model (empty pointer when absent).
 #define QB_MODEL(Class, name, Name) QB_DICT_PROPERTY_(std::shared_ptr<Class>, name, Name)
-// A list of nested models.
+/// A list of nested models.
 #define QB_MODEL_LIST(Class, name, Name) \
   QB_DICT_PROPERTY_(std::optional<std::vector<std::shared_ptr<Class>>>, name, Name)
-// A list of plain values, elements kept as they came.
+/// A list of plain values, elements kept as they came.
 #define QB_LIST(name, Name) QB_DICT_PROPERTY_(std::optional<::qb::JsonList>, name, Name)
-// A map, kept only when the reply holds a JSON object there.
+/// A map, kept only when the reply holds a JSON object there.
 #define QB_MAP(name, Name) QB_DICT_PROPERTY_(std::optional<::qb::JsonMap>, name, Name)
-// File bytes (multipart uploads only; never part of a parameter map).
+/// File bytes (multipart uploads only; never part of a parameter map).
 #define QB_DATA(name, Name) QB_DICT_PROPERTY_(std::optional<std::vector<std::byte>>, name, Name)
 
-// Field-table entries.
+/// Field-table entries.
 #define QB_REQUIRED(name, key) ::qb::dict::field(key, #name, &Self::name##_, true)
 #define QB_OPTIONAL(name, key) ::qb::dict::field(key, #name, &Self::name##_, false)
-// A required field whose reasons name it `reasonName` instead of its property name (for a record whose
-// reason text has always spelt the field otherwise).
+/// A required field whose reasons name it `reasonName` instead of its property name (for a record whose
+/// reason text has always spelt the field otherwise).
 #define QB_REQUIRED_AS(name, key, reasonName) ::qb::dict::field(key, reasonName, &Self::name##_, true)
 
-// The tables: model fields, message parameters, message results (each in declared order).
+/// The tables: model fields, message parameters, message results (each in declared order).
 #define QB_FIELDS(...) \
   static constexpr auto qbFields() { return ::qb::dict::fields(__VA_ARGS__); }
 #define QB_PARAMS(...) \
@@ -171,10 +171,10 @@ class DictMessage : public QBMessageBase {
 #define QB_RESULTS(...) \
   static constexpr auto qbResults() { return ::qb::dict::fields(__VA_ARGS__); }
 
-// Opens a model class (derived from qb::QBAPIModel): `Name` is the class name without its prefix.
-// initWithJsonObject throws ParameterCheckFailException for the first required field (in declared order)
-// that is absent or null, and JsonTypeError for a value that cannot be read as its kind (a null or a
-// list in an integer field, a non-map where a nested model is read).
+/// Opens a model class (derived from qb::QBAPIModel): `Name` is the class name without its prefix.
+/// initWithJsonObject throws ParameterCheckFailException for the first required field (in declared order)
+/// that is absent or null, and JsonTypeError for a value that cannot be read as its kind (a null or a
+/// list in an integer field, a non-map where a nested model is read).
 #define QB_DICT_MODEL(Class, Name)                                          \
  public:                                                                    \
   using Self = Class;                                                       \
@@ -187,7 +187,7 @@ class DictMessage : public QBMessageBase {
   ::qb::JsonMap toDictionary() const override;                              \
   std::string_view modelName() const override { return kModelName; }
 
-// Opens a message class: `Action` names it in reasons ("GetConfig"), `endpoint` is its qb::Endpoint.
+/// Opens a message class: `Action` names it in reasons ("GetConfig"), `endpoint` is its qb::Endpoint.
 #define QB_DICT_MESSAGE(Class, Action, endpoint)                       \
  public:                                                               \
   using Self = Class;                                                  \

@@ -8,15 +8,15 @@ namespace qb {
 
 enum class HttpVerb { get, post };
 
-// How an endpoint treats the session: `none` sends no credentials; `optional` sends them when the app
-// has a session (needAuth); `required` insists on one (needAuth and mustAuth).
+/// How an endpoint treats the session: `none` sends no credentials; `optional` sends them when the app
+/// has a session (needAuth); `required` insists on one (needAuth and mustAuth).
 enum class Auth { none, optional, required };
 
-// Which faces offer an endpoint.
+/// Which faces offer an endpoint.
 enum class Faces { both, dictionaryOnly, typedOnly };
 
 struct Endpoint {
-  std::string_view path;  // relative, "v3/<domain>/<action>"
+  std::string_view path;  ///< relative, "v3/<domain>/<action>"
   HttpVerb verb;
   Auth auth;
   Faces faces = Faces::both;
@@ -24,7 +24,7 @@ struct Endpoint {
   constexpr bool forceHttps() const noexcept { return true; }
   constexpr bool needAuth() const noexcept { return auth != Auth::none; }
   constexpr bool mustAuth() const noexcept { return auth == Auth::required; }
-  // "get"/"post" for the Dictionary face, "GET"/"POST" for the Typed face.
+  /// "get"/"post" for the Dictionary face, "GET"/"POST" for the Typed face.
   constexpr std::string_view lowerVerb() const noexcept { return verb == HttpVerb::get ? "get" : "post"; }
   constexpr std::string_view upperVerb() const noexcept { return verb == HttpVerb::get ? "GET" : "POST"; }
 };

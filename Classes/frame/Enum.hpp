@@ -17,28 +17,28 @@ struct EnumCase {
   std::string_view name;
 };
 
-// Specialised once per enumeration (see QB_ENUM below) with:
-//   name        the enumeration's name, used in decoding errors;
-//   cases       every case in declaration order;
-//   fallback    the case an unknown raw value decodes as, or std::nullopt when it is an error;
-//   hasCaseList whether allCases<E>() is offered.
+/// Specialised once per enumeration (see QB_ENUM below) with:
+///   name        the enumeration's name, used in decoding errors;
+///   cases       every case in declaration order;
+///   fallback    the case an unknown raw value decodes as, or std::nullopt when it is an error;
+///   hasCaseList whether allCases<E>() is offered.
 template <class E>
 struct EnumTraits;
 
-// An enumeration the codecs can carry as its bare integer.
+/// An enumeration the codecs can carry as its bare integer.
 template <class E>
 concept APIEnumrable = std::is_enum_v<E> && requires {
   { EnumTraits<E>::name } -> std::convertible_to<std::string_view>;
   EnumTraits<E>::cases;
 };
 
-// The integer put on the wire for `value`.
+/// The integer put on the wire for `value`.
 template <APIEnumrable E>
 constexpr std::int64_t rawValue(E value) noexcept {
   return static_cast<std::int64_t>(value);
 }
 
-// The case whose raw value is `raw`, or std::nullopt when there is none (no fallback is applied).
+/// The case whose raw value is `raw`, or std::nullopt when there is none (no fallback is applied).
 template <APIEnumrable E>
 constexpr std::optional<E> fromRawValue(std::int64_t raw) noexcept {
   for (const auto& c : EnumTraits<E>::cases) {
@@ -47,7 +47,7 @@ constexpr std::optional<E> fromRawValue(std::int64_t raw) noexcept {
   return std::nullopt;
 }
 
-// The case's name as declared ("billingRetrying"); empty for a value that is no case.
+/// The case's name as declared ("billingRetrying"); empty for a value that is no case.
 template <APIEnumrable E>
 constexpr std::string_view caseName(E value) noexcept {
   for (const auto& c : EnumTraits<E>::cases) {
@@ -56,15 +56,15 @@ constexpr std::string_view caseName(E value) noexcept {
   return {};
 }
 
-// Every case in declaration order; offered only by enumerations with a case list.
+/// Every case in declaration order; offered only by enumerations with a case list.
 template <APIEnumrable E>
   requires(EnumTraits<E>::hasCaseList)
 constexpr std::span<const EnumCase<E>> allCases() noexcept {
   return EnumTraits<E>::cases;
 }
 
-// What decoding makes of a raw integer: the case, else the enumeration's fallback, else a
-// DecodingError (dataCorrupted) "Cannot initialize <Enum> from invalid Int value <n>".
+/// What decoding makes of a raw integer: the case, else the enumeration's fallback, else a
+/// DecodingError (dataCorrupted) "Cannot initialize <Enum> from invalid Int value <n>".
 template <APIEnumrable E>
 E enumFromDecoded(std::int64_t raw) {
   if (auto value = fromRawValue<E>(raw)) return *value;
@@ -78,7 +78,7 @@ E enumFromDecoded(std::int64_t raw) {
 }
 
 namespace detail {
-// "Shade" from "qb::test::Shade".
+/// "Shade" from "qb::test::Shade".
 constexpr std::string_view unqualified(std::string_view name) noexcept {
   const auto at = name.rfind("::");
   return at == std::string_view::npos ? name : name.substr(at + 2);
@@ -102,5 +102,5 @@ constexpr std::string_view unqualified(std::string_view name) noexcept {
   }
 #define QB_ENUM(Enum, ...) QB_ENUM_TRAITS_(Enum, std::nullopt, false, __VA_ARGS__)
 
-// Declares the traits of an enumeration with a case list, whose unknown raw values decode as `fallbackCase`.
+/// Declares the traits of an enumeration with a case list, whose unknown raw values decode as `fallbackCase`.
 #define QB_ENUM_WITH_FALLBACK(Enum, fallbackCase, ...) QB_ENUM_TRAITS_(Enum, Enum::fallbackCase, true, __VA_ARGS__)

@@ -12,8 +12,8 @@
 
 namespace qb {
 
-// The app's language, sent as its integer under "language_code". The numbers are stable: new languages
-// are only ever appended.
+/// The app's language, sent as its integer under "language_code". The numbers are stable: new languages
+/// are only ever appended.
 enum class LanguageCode : std::int64_t {
   en = 0,
   zhHans = 1,
@@ -33,36 +33,36 @@ enum class LanguageCode : std::int64_t {
   sv = 15,
 };
 
-// The kind of device the app runs on, sent as its integer under "device_type".
+/// The kind of device the app runs on, sent as its integer under "device_type".
 enum class DeviceType : std::int64_t {
   ios = 1,
   android = 2,
   web = 3,
 };
 
-// Any JSON value, carried through the Typed face unread (for example "other_configs").
+/// Any JSON value, carried through the Typed face unread (for example "other_configs").
 struct AnyCodable {
   JsonValue value;
   bool operator==(const AnyCodable&) const = default;
 };
 
-// A file to upload. It never appears in an encoded body; it travels as a multipart part.
+/// A file to upload. It never appears in an encoded body; it travels as a multipart part.
 struct APIFile {
   std::vector<std::byte> data;
   std::optional<std::string> contentType = std::nullopt;
   bool operator==(const APIFile&) const = default;
 };
 
-// One multipart part of a Typed-face request.
+/// One multipart part of a Typed-face request.
 struct APIMimeBody {
-  std::string name;         // form field name
+  std::string name;         ///< form field name
   APIFile file;
   std::string fileName;
   std::string contentType;
   bool operator==(const APIMimeBody&) const = default;
 };
 
-// One multipart part of a Dictionary-face message, in the order the host reads it.
+/// One multipart part of a Dictionary-face message, in the order the host reads it.
 struct QBMimeBody {
   std::string contentType;
   std::string fieldName;

@@ -12,8 +12,8 @@ namespace qb {
 
 namespace detail {
 
-// Appends JSON text to a string. Strings are checked for valid UTF-8 and escaped; numbers are written in
-// their shortest exact form.
+/// Appends JSON text to a string. Strings are checked for valid UTF-8 and escaped; numbers are written in
+/// their shortest exact form.
 class JsonTextSink {
  public:
   JsonTextSink(std::string& out, DateStrategy strategy) : out_(out), strategy_(strategy) {}
@@ -87,15 +87,15 @@ class JSONEncoder {
  public:
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;
 
-  // Compact JSON text of `value` (a record, list or map); absent optional members leave no key.
-  // Throws EncodingError for a non-finite double, invalid UTF-8 in a text or an enumeration value that is
-  // none of its cases. Allocates the result.
+  /// Compact JSON text of `value` (a record, list or map); absent optional members leave no key.
+  /// Throws EncodingError for a non-finite double, invalid UTF-8 in a text or an enumeration value that is
+  /// none of its cases. Allocates the result.
   template <class T>
   std::string encode(const T& value) const;
 };
 
-// Defined out of the class, so that it is not inline: a domain's umbrella header then declares it
-// `extern template` for its records, and only the domain's own .cpp file compiles it.
+/// Defined out of the class, so that it is not inline: a domain's umbrella header then declares it
+/// `extern template` for its records, and only the domain's own .cpp file compiles it.
 template <class T>
 std::string JSONEncoder::encode(const T& value) const {
   std::string out;

@@ -14,7 +14,7 @@ namespace detail {
 [[noreturn]] void throwMismatch(std::string_view expected, const JsonValue& found);
 void checkWritable(std::string_view text);
 
-// A decoder node over a JsonValue; records are read in declared order.
+/// A decoder node over a JsonValue; records are read in declared order.
 class JsonValueNode {
  public:
   JsonValueNode(const JsonValue& value, DateStrategy strategy) : value_(&value), strategy_(strategy) {}
@@ -73,7 +73,7 @@ class JsonValueNode {
   DateStrategy strategy_;
 };
 
-// An encoder sink that builds a JsonValue.
+/// An encoder sink that builds a JsonValue.
 class JsonValueSink {
  public:
   explicit JsonValueSink(DateStrategy strategy) : strategy_(strategy) {}
@@ -136,8 +136,8 @@ class JsonValueSink {
 
 }  // namespace detail
 
-// Decodes a record (or list, or map) from an already parsed JsonValue. Throws DecodingError, naming the
-// first failing field in declared order with its full coding path.
+/// Decodes a record (or list, or map) from an already parsed JsonValue. Throws DecodingError, naming the
+/// first failing field in declared order with its full coding path.
 class JsonValueDecoder {
  public:
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;
@@ -146,8 +146,8 @@ class JsonValueDecoder {
   T decode(const JsonValue& value) const;
 };
 
-// Encodes a record into a JsonValue (a JsonMap for records). Throws EncodingError for a non-finite
-// double, invalid UTF-8 in a text or an enumeration value that is none of its cases.
+/// Encodes a record into a JsonValue (a JsonMap for records). Throws EncodingError for a non-finite
+/// double, invalid UTF-8 in a text or an enumeration value that is none of its cases.
 class JsonValueEncoder {
  public:
   DateStrategy dateStrategy = DateStrategy::secondsSince1970;
@@ -156,8 +156,8 @@ class JsonValueEncoder {
   JsonValue encode(const T& value) const;
 };
 
-// Defined out of the classes, so that they are not inline: a domain's umbrella header then declares
-// them `extern template` for its records, and only the domain's own .cpp file compiles them.
+/// Defined out of the classes, so that they are not inline: a domain's umbrella header then declares
+/// them `extern template` for its records, and only the domain's own .cpp file compiles them.
 template <class T>
 T JsonValueDecoder::decode(const JsonValue& value) const {
   T out{};

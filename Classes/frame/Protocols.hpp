@@ -13,11 +13,11 @@
 
 namespace qb {
 
-// A record that both encodes and decodes through its coding keys.
+/// A record that both encodes and decodes through its coding keys.
 template <class T>
 concept APIModel = Codable<T> && std::copyable<T> && std::equality_comparable<T>;
 
-// What the host asks of a request.
+/// What the host asks of a request.
 template <class T>
 concept APIRequest = requires(const T& request) {
   typename T::Response;
@@ -29,30 +29,30 @@ concept APIRequest = requires(const T& request) {
   { request.mimeBodies() } -> std::same_as<std::vector<APIMimeBody>>;
 };
 
-// A request that hands itself to an encoder.
+/// A request that hands itself to an encoder.
 template <class T>
 concept APIEncodableRequest = APIRequest<T> && Codable<T> && requires(const T& request, const JSONEncoder& encoder) {
   { request.parseParamater(encoder) } -> std::same_as<std::string>;
 };
 
-// A response the host builds from reply data and a decoder.
+/// A response the host builds from reply data and a decoder.
 template <class T>
 concept APIResponse = requires(std::string_view data, const JSONDecoder& decoder) {
   { T::init(data, decoder) } -> std::same_as<T>;
 };
 
-// A response built from JSON text.
+/// A response built from JSON text.
 template <class T>
 concept APIJSONResponse = APIResponse<T>;
 
-// A response decoded through its coding keys.
+/// A response decoded through its coding keys.
 template <class T>
 concept APIDecodableResponse = APIResponse<T> && Codable<T>;
 
 namespace detail {
 
-// The multipart bodies of a request: one per present file member, named after its key, with the file
-// name "file" and the content type "application/octet-stream".
+/// The multipart bodies of a request: one per present file member, named after its key, with the file
+/// name "file" and the content type "application/octet-stream".
 template <Codable T>
 std::vector<APIMimeBody> mimeBodiesOf(const T& request) {
   std::vector<APIMimeBody> bodies;
@@ -72,7 +72,7 @@ std::vector<APIMimeBody> mimeBodiesOf(const T& request) {
 }  // namespace detail
 }  // namespace qb
 
-// Declares the operations of a request for `endpoint` (a qb::Endpoint) whose reply decodes as `ResponseType`.
+/// Declares the operations of a request for `endpoint` (a qb::Endpoint) whose reply decodes as `ResponseType`.
 #define QB_TYPED_REQUEST(endpoint, ResponseType)                                                      \
   using Response = ResponseType;                                                                     \
   static constexpr ::qb::Endpoint kEndpoint = endpoint;                                               \
@@ -85,12 +85,12 @@ std::vector<APIMimeBody> mimeBodiesOf(const T& request) {
   template <class Encoder>                                                                           \
   auto parseParamater(const Encoder& encoder) const { return encoder.encode(*this); }
 
-// Declares `init(data, decoder)` of a response record.
+/// Declares `init(data, decoder)` of a response record.
 #define QB_TYPED_RESPONSE(Type)                                     \
   template <class Data, class Decoder>                              \
   static Type init(const Data& data, const Decoder& decoder) {      \
     return decoder.template decode<Type>(data);                     \
   }
 
-// Instantiates qb::JSONDecoder for a record; put in the record's .cpp file.
+/// Instantiates qb::JSONDecoder for a record; put in the record's .cpp file.
 #define QB_TYPED_DEFINE(Type) template Type qb::JSONDecoder::decode<Type>(std::string_view) const;

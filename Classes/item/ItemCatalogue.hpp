@@ -5,7 +5,7 @@
 
 #include <QBComponentAPI/frame/Catalogue.hpp>
 
-// constant, path, verb, authentication, Dictionary-face message, Typed-face request
+/// constant, path, verb, authentication, Dictionary-face message, Typed-face request
 #define QB_ITEM_ENDPOINTS(BOTH, DICT, TYPED)                                                                   \
   BOTH(kGetItemDetail, "v3/item/get_item_detail", get, required, QBItemGetItemDetailMessage,                  \
        ItemGetItemDetailRequest)                                                                              \
@@ -34,7 +34,7 @@
   TYPED(kCheckUserBuyCloudStorage, "v3/item/check_user_buy_cloud_storage", post, required,                    \
         ItemCheckUserBuyCloudStorageRequest)
 
-// Dictionary-face model, Typed-face model
+/// Dictionary-face model, Typed-face model
 #define QB_ITEM_RECORDS(BOTH, DICT, TYPED) \
   BOTH(QBAPIItemImage, ItemImageModel)     \
   BOTH(QBAPISimpleItem, SimpleItemModel)   \

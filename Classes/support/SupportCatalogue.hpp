@@ -8,7 +8,7 @@
 
 #include <QBComponentAPI/frame/Catalogue.hpp>
 
-// constant, path, verb, authentication, Dictionary-face message, Typed-face request
+/// constant, path, verb, authentication, Dictionary-face message, Typed-face request
 #define QB_SUPPORT_ENDPOINTS(BOTH, DICT, TYPED)                                                                \
   BOTH(kGetCustomerSupportAutoReply, "v3/support/get_customer_support_auto_reply", post, required,            \
        SPSupportGetCustomerSupportAutoReplyMessage, SupportGetCustomerSupportAutoReplyRequest)                \
@@ -21,7 +21,7 @@
   DICT(kSendSupportTicketWithoutExtraFields, "v3/support/send_support_ticket", post, required,                \
        QBSupportSendSupportTicketMessage)
 
-// Dictionary-face model, Typed-face model
+/// Dictionary-face model, Typed-face model
 #define QB_SUPPORT_RECORDS(BOTH, DICT, TYPED)          \
   BOTH(SPAPIAutoReplyArticle, AutoReplyArticleModel) \
   BOTH(SPAPICmsFaqArticle, CmsFaqArticleModel)       \

@@ -5,7 +5,7 @@
 
 #include <QBComponentAPI/frame/Catalogue.hpp>
 
-// constant, path, verb, authentication, Dictionary-face message, Typed-face request
+/// constant, path, verb, authentication, Dictionary-face message, Typed-face request
 #define QB_USER_ENDPOINTS(BOTH, DICT, TYPED)                                                                 \
   BOTH(kInitialise, "v3/user/initialise", post, optional, QBUserInitialiseMessage, UserInitialiseRequest)   \
   BOTH(kLoginOrCreate, "v3/user/login_or_create", post, optional, QBUserLoginOrCreateMessage,               \
@@ -37,7 +37,7 @@
   BOTH(kGetConfig, "v3/user/get_config", post, required, QBUserGetConfigMessage, UserGetConfigRequest)       \
   BOTH(kGetFaq, "v3/user/get_faq", get, required, QBUserGetFaqMessage, UserGetFaqRequest)
 
-// Dictionary-face model, Typed-face model
+/// Dictionary-face model, Typed-face model
 #define QB_USER_RECORDS(BOTH, DICT, TYPED)                   \
   BOTH(QBAPIUser, UserModel)                                 \
   BOTH(QBAPIUserAdditionalData, UserAdditionalDataModel)     \

@@ -4,13 +4,13 @@
 
 #include <QBComponentAPI/frame/Catalogue.hpp>
 
-// constant, path, verb, authentication, Dictionary-face message, Typed-face request
+/// constant, path, verb, authentication, Dictionary-face message, Typed-face request
 #define QB_VIP_ENDPOINTS(BOTH, DICT, TYPED)                                                         \
   BOTH(kVipCard, "v3/vip/vip_card", get, required, QBVipGetVipCardMessage, VipGetVipCardRequest) \
   TYPED(kRemindUserToAttentionTrial, "v3/vip/remind_user_to_attention_trial", post, required,     \
         VipRemindUserToAttentionTrialRequest)
 
-// Dictionary-face model, Typed-face model
+/// Dictionary-face model, Typed-face model
 #define QB_VIP_RECORDS(BOTH, DICT, TYPED)   \
   BOTH(QBAPIVerifyResult, VerifyResultModel) \
   BOTH(QBAPIRestoreResult, RestoreResultModel)

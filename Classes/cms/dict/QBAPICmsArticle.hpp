@@ -7,7 +7,7 @@ namespace qb {
 class QBAPICmsImage;
 class QBAPICmsTag;
 
-// An article page.
+/// An article page.
 class QBAPICmsArticle final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsArticle, "CmsArticle")
   QB_LIST(titles, Titles)

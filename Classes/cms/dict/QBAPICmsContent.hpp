@@ -7,7 +7,7 @@ namespace qb {
 class QBAPICmsLayout;
 class QBAPICmsTag;
 
-// A bare content page: its layouts and the tags they refer to.
+/// A bare content page: its layouts and the tags they refer to.
 class QBAPICmsContent final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsContent, "CmsContent")
   QB_MODEL_LIST(QBAPICmsLayout, layouts, Layouts)

@@ -12,8 +12,8 @@ class QBAPICmsTag;
 class QBAPIDiagnoseDetect;
 class QBAPISimpleCmsDisease;
 
-// A disease description attached to a content name. Its own "uid" is optional. A missing
-// "disease_level" reads as 0 (healthy) and, like every integer, is written back.
+/// A disease description attached to a content name. Its own "uid" is optional. A missing
+/// "disease_level" reads as 0 (healthy) and, like every integer, is written back.
 class QBAPICmsDisease final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsDisease, "CmsDisease")
   QB_VALUE(uid, Uid)

@@ -7,8 +7,8 @@ namespace qb {
 class QBAPICmsTag;
 class QBAPICopyright;
 
-// An image of a content name, also usable as a tag value (`type` is the tag-value type). This face also
-// keeps the "illustration" text; `similarity` is the number object as the reply gave it.
+/// An image of a content name, also usable as a tag value (`type` is the tag-value type). This face also
+/// keeps the "illustration" text; `similarity` is the number object as the reply gave it.
 class QBAPICmsImage final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsImage, "CmsImage")
   QB_INTEGER(type, Type)

@@ -6,8 +6,8 @@ namespace qb {
 
 class QBAPICmsTitle;
 
-// One block of a content page: its layout type and visual kind, and the names of the tags (CmsTag
-// `tagName`) that fill it on the page and on its sub-page.
+/// One block of a content page: its layout type and visual kind, and the names of the tags (CmsTag
+/// `tagName`) that fill it on the page and on its sub-page.
 class QBAPICmsLayout final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsLayout, "CmsLayout")
   QB_VALUE(name, Name)

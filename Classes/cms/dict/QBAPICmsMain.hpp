@@ -7,8 +7,8 @@ namespace qb {
 class QBAPICmsImage;
 class QBAPITaxonomyName;
 
-// A compact reference to a content name, carried as a tag value (`type` is the tag-value type). Unlike
-// the full content name it requires its main image.
+/// A compact reference to a content name, carried as a tag value (`type` is the tag-value type). Unlike
+/// the full content name it requires its main image.
 class QBAPICmsMain final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsMain, "CmsMain")
   QB_INTEGER(type, Type)

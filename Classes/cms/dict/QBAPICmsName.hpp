@@ -13,9 +13,9 @@ class QBAPICmsVideo;
 class QBAPISimpleCmsName;
 class QBAPITaxonomyName;
 
-// The full description of one content name: its taxonomy, children, page layouts and tags, images,
-// disease description and videos. The main image is optional while the list of matched similar images
-// is required (an empty list satisfies it).
+/// The full description of one content name: its taxonomy, children, page layouts and tags, images,
+/// disease description and videos. The main image is optional while the list of matched similar images
+/// is required (an empty list satisfies it).
 class QBAPICmsName final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsName, "CmsName")
   QB_VALUE(uid, Uid)

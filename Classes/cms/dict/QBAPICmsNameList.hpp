@@ -6,7 +6,7 @@ namespace qb {
 
 class QBAPISimpleCmsName;
 
-// A titled list of content names, for example a curated collection.
+/// A titled list of content names, for example a curated collection.
 class QBAPICmsNameList final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsNameList, "CmsNameList")
   QB_VALUE(uid, Uid)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The pair of pages that render a piece of content in light and dark mode.
+/// The pair of pages that render a piece of content in light and dark mode.
 class QBAPICmsStaticUrl final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsStaticUrl, "CmsStaticUrl")
   QB_VALUE(lightUrl, LightUrl)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// A colour tag value: the tag-value type and the colour, both integers.
+/// A colour tag value: the tag-value type and the colour, both integers.
 class QBAPICmsTagColors final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsTagColors, "CmsTagColors")
   QB_INTEGER(type, Type)

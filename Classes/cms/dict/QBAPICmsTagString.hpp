@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// A text tag value, optionally labelled.
+/// A text tag value, optionally labelled.
 class QBAPICmsTagString final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsTagString, "CmsTagString")
   QB_INTEGER(type, Type)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The tag-value type alone, for reading a tag value's kind before choosing the class to read it with.
+/// The tag-value type alone, for reading a tag value's kind before choosing the class to read it with.
 class QBAPICmsTagValue final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsTagValue, "CmsTagValue")
   QB_INTEGER(type, Type)

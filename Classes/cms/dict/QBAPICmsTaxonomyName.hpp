@@ -4,8 +4,8 @@
 
 namespace qb {
 
-// A taxonomy name carried as a tag value. `type` is the tag-value type and `taxonomyType` the taxonomy
-// type (which a plain taxonomy name keeps under "type").
+/// A taxonomy name carried as a tag value. `type` is the tag-value type and `taxonomyType` the taxonomy
+/// type (which a plain taxonomy name keeps under "type").
 class QBAPICmsTaxonomyName final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsTaxonomyName, "CmsTaxonomyName")
   QB_INTEGER(type, Type)

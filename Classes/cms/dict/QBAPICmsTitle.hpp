@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The heading of a layout or tag block, with an icon for each display mode. No field is required.
+/// The heading of a layout or tag block, with an icon for each display mode. No field is required.
 class QBAPICmsTitle final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsTitle, "CmsTitle")
   QB_VALUE(displayName, DisplayName)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// A video of a content name. The classification is kept as the integer the reply gave, known or not.
+/// A video of a content name. The classification is kept as the integer the reply gave, known or not.
 class QBAPICmsVideo final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICmsVideo, "CmsVideo")
   QB_INTEGER(videoClassification, VideoClassification)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The attribution of an image. No field is required. "authorlink" is one word, key and property alike.
+/// The attribution of an image. No field is required. "authorlink" is one word, key and property alike.
 class QBAPICopyright final : public QBAPIModel {
   QB_DICT_MODEL(QBAPICopyright, "Copyright")
   QB_VALUE(author, Author)

@@ -4,8 +4,8 @@
 
 namespace qb {
 
-// One detected region with its scores; the coordinates and scores are the number objects as the reply
-// gave them.
+/// One detected region with its scores; the coordinates and scores are the number objects as the reply
+/// gave them.
 class QBAPIDiagnoseDetectRegion final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIDiagnoseDetectRegion, "DiagnoseDetectRegion")
   QB_LIST(region, Region)

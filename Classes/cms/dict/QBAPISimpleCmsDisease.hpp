@@ -8,7 +8,7 @@ class QBAPICmsLayout;
 class QBAPICmsStaticUrl;
 class QBAPICmsTag;
 
-// A short reference to a related disease.
+/// A short reference to a related disease.
 class QBAPISimpleCmsDisease final : public QBAPIModel {
   QB_DICT_MODEL(QBAPISimpleCmsDisease, "SimpleCmsDisease")
   QB_VALUE(uid, Uid)

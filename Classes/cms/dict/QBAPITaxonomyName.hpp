@@ -4,9 +4,9 @@
 
 namespace qb {
 
-// One rank of a taxonomy: a name itself, its parent, its family, or an entry of its taxonomies. `type`
-// is the taxonomy type. Only the preferred and latin names are required here, so an entry without
-// "uid" is accepted.
+/// One rank of a taxonomy: a name itself, its parent, its family, or an entry of its taxonomies. `type`
+/// is the taxonomy type. Only the preferred and latin names are required here, so an entry without
+/// "uid" is accepted.
 class QBAPITaxonomyName final : public QBAPIModel {
   QB_DICT_MODEL(QBAPITaxonomyName, "TaxonomyName")
   QB_VALUE(uid, Uid)

@@ -7,11 +7,11 @@ namespace qb {
 
 class QBAPICmsName;
 
-// get_cms_name_list: several content names by id, for a language and country. The ids travel as the
-// JSON text of the list (one string value), not as an array.
+/// get_cms_name_list: several content names by id, for a language and country. The ids travel as the
+/// JSON text of the list (one string value), not as an array.
 class QBCmsGetCmsNameListMessage final : public DictMessage<QBCmsGetCmsNameListMessage> {
   QB_DICT_MESSAGE(QBCmsGetCmsNameListMessage, "GetCmsNameList", cms::kGetCmsNameList)
-  // languageCode is the number of a qb::LanguageCode.
+  /// languageCode is the number of a qb::LanguageCode.
   static std::shared_ptr<QBCmsGetCmsNameListMessage> initWithData(std::optional<JsonList> cmsNameUids,
                                                                   std::int64_t languageCode,
                                                                   std::optional<JsonValue> countryCode) {

@@ -7,10 +7,10 @@ namespace qb {
 
 class QBAPICmsNameList;
 
-// get_cms_name_lists: the curated name lists of a content type, for a language and country.
+/// get_cms_name_lists: the curated name lists of a content type, for a language and country.
 class QBCmsGetCmsNameListsMessage final : public DictMessage<QBCmsGetCmsNameListsMessage> {
   QB_DICT_MESSAGE(QBCmsGetCmsNameListsMessage, "GetCmsNameLists", cms::kGetCmsNameLists)
-  // languageCode is the number of a qb::LanguageCode.
+  /// languageCode is the number of a qb::LanguageCode.
   static std::shared_ptr<QBCmsGetCmsNameListsMessage> initWithData(std::optional<JsonValue> contentType,
                                                                    std::int64_t languageCode,
                                                                    std::optional<JsonValue> countryCode) {

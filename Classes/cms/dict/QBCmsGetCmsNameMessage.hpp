@@ -7,10 +7,10 @@ namespace qb {
 
 class QBAPICmsName;
 
-// get_cms_name: one content name by its id, for a language and country.
+/// get_cms_name: one content name by its id, for a language and country.
 class QBCmsGetCmsNameMessage final : public DictMessage<QBCmsGetCmsNameMessage> {
   QB_DICT_MESSAGE(QBCmsGetCmsNameMessage, "GetCmsName", cms::kGetCmsName)
-  // languageCode is the number of a qb::LanguageCode.
+  /// languageCode is the number of a qb::LanguageCode.
   static std::shared_ptr<QBCmsGetCmsNameMessage> initWithData(std::optional<JsonValue> cmsNameUid,
                                                               std::int64_t languageCode,
                                                               std::optional<JsonValue> countryCode) {

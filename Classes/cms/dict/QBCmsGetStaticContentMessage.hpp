@@ -5,10 +5,10 @@
 
 namespace qb {
 
-// get_static_content: the static text of a content type, for a language and country.
+/// get_static_content: the static text of a content type, for a language and country.
 class QBCmsGetStaticContentMessage final : public DictMessage<QBCmsGetStaticContentMessage> {
   QB_DICT_MESSAGE(QBCmsGetStaticContentMessage, "GetStaticContent", cms::kGetStaticContent)
-  // languageCode is the number of a qb::LanguageCode.
+  /// languageCode is the number of a qb::LanguageCode.
   static std::shared_ptr<QBCmsGetStaticContentMessage> initWithData(std::optional<JsonValue> contentType,
                                                                     std::int64_t languageCode,
                                                                     std::optional<JsonValue> countryCode) {

@@ -7,11 +7,11 @@ namespace qb {
 
 class QBAPICmsStaticUrl;
 
-// get_static_url: the light and dark pages of a content type, optionally of one piece of it (uid), for a
-// language and country.
+/// get_static_url: the light and dark pages of a content type, optionally of one piece of it (uid), for a
+/// language and country.
 class QBCmsGetStaticUrlMessage final : public DictMessage<QBCmsGetStaticUrlMessage> {
   QB_DICT_MESSAGE(QBCmsGetStaticUrlMessage, "GetStaticUrl", cms::kGetStaticUrl)
-  // languageCode is the number of a qb::LanguageCode.
+  /// languageCode is the number of a qb::LanguageCode.
   static std::shared_ptr<QBCmsGetStaticUrlMessage> initWithData(std::optional<JsonValue> contentType,
                                                                 std::int64_t languageCode,
                                                                 std::optional<JsonValue> countryCode,

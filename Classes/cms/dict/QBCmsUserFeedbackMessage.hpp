@@ -5,12 +5,12 @@
 
 namespace qb {
 
-// user_feedback: sends a user's feedback on content, with the device and app it came from. The reply
-// carries nothing to read.
+/// user_feedback: sends a user's feedback on content, with the device and app it came from. The reply
+/// carries nothing to read.
 class QBCmsUserFeedbackMessage final : public DictMessage<QBCmsUserFeedbackMessage> {
   QB_DICT_MESSAGE(QBCmsUserFeedbackMessage, "UserFeedback", cms::kUserFeedback)
-  // languageCode is the number of a qb::LanguageCode, deviceType that of the host's device type; userId
-  // is sent as the object given.
+  /// languageCode is the number of a qb::LanguageCode, deviceType that of the host's device type; userId
+  /// is sent as the object given.
   static std::shared_ptr<QBCmsUserFeedbackMessage> initWithData(
       std::optional<JsonValue> userId, std::int64_t languageCode, std::optional<JsonValue> countryCode,
       std::int64_t deviceType, std::optional<JsonValue> deviceOs, std::optional<JsonValue> deviceModel,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// A colour carried as a tag value.
+/// A colour carried as a tag value.
 enum class CmsColor : std::int64_t {
   orange = 0,
   yellow = 1,

@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// The text format of a piece of content. No record carries it; it is offered with the catalogue's
-// other enumerations.
+/// The text format of a piece of content. No record carries it; it is offered with the catalogue's
+/// other enumerations.
 enum class CmsFormat : std::int64_t {
   markdown = 0,
   plainText = 1,

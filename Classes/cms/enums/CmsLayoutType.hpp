@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// How a layout block is filled: by named tags, by custom content, or as a link to a sub-page.
+/// How a layout block is filled: by named tags, by custom content, or as a link to a sub-page.
 enum class CmsLayoutType : std::int64_t {
   nameTags = 0,
   custom = 1,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The visual kind of a layout block.
+/// The visual kind of a layout block.
 enum class CmsLayoutTypeSet : std::int64_t {
   faq = 0,
   gallery = 1,

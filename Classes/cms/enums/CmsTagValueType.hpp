@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// The kind of a tag value, which tells the record a tag value map has the shape of: CmsTagString,
-// CmsTag, CmsImage, CmsMain, CmsTaxonomyName or CmsTagColors, in case order.
+/// The kind of a tag value, which tells the record a tag value map has the shape of: CmsTagString,
+/// CmsTag, CmsImage, CmsMain, CmsTaxonomyName or CmsTagColors, in case order.
 enum class CmsTagValueType : std::int64_t {
   cmsTagValueString = 0,
   cmsTagValueTag = 1,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// How badly a disease affects the plant.
+/// How badly a disease affects the plant.
 enum class DiseaseLevel : std::int64_t {
   healthy = 0,
   mild = 1,

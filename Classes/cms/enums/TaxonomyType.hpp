@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// The rank or kind of a taxonomy name. `kindom` is spelled as the service spells it; `class`
-// is a C++ keyword, so its case is written `class_` and keeps the name "class".
+/// The rank or kind of a taxonomy name. `kindom` is spelled as the service spells it; `class`
+/// is a C++ keyword, so its case is written `class_` and keeps the name "class".
 enum class TaxonomyType : std::int64_t {
   kindom = 0,
   phylum = 1,

@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// The topic of a video. Unknown values, negative ones included, decode as `unknown`, so that a new
-// topic never breaks a reply; building one from an unknown raw value still gives nothing.
+/// The topic of a video. Unknown values, negative ones included, decode as `unknown`, so that a new
+/// topic never breaks a reply; building one from an unknown raw value still gives nothing.
 enum class VideoClassification : std::int64_t {
   unknown = 0,
   sunLight = 1,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// A book offered for a country and language.
+/// A book offered for a country and language.
 struct BookModel {
   std::string uid;
   std::string title;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// An article page.
+/// An article page.
 struct CmsArticleModel {
   std::optional<std::vector<std::string>> titles = std::nullopt;
   std::optional<std::string> shortTitle = std::nullopt;

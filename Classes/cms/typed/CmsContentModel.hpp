@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// A bare content page: its layouts and the tags they refer to.
+/// A bare content page: its layouts and the tags they refer to.
 struct CmsContentModel {
   std::vector<CmsLayoutModel> layouts;
   std::vector<CmsTagModel> tags;

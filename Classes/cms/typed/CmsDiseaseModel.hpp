@@ -12,8 +12,8 @@
 
 namespace qb {
 
-// A disease description attached to a content name. Its uid and level are optional: a reply
-// without a level leaves it absent.
+/// A disease description attached to a content name. Its uid and level are optional: a reply
+/// without a level leaves it absent.
 struct CmsDiseaseModel {
   std::optional<std::string> uid = std::nullopt;
   CmsArticleModel article;

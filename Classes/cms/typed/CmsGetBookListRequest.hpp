@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_book_list: the books offered for a language and country.
+/// get_book_list: the books offered for a language and country.
 struct CmsGetBookListRequest {
   LanguageCode languageCode;
   std::string countryCode;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_book_list.
+/// The reply of get_book_list.
 struct CmsGetBookListResponse {
   std::vector<BookModel> books;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// articles: the articles of a content type (all of them when none is given) for a language.
+/// articles: the articles of a content type (all of them when none is given) for a language.
 struct CmsGetCmsArticlesRequest {
   std::optional<std::string> contentType = std::nullopt;
   LanguageCode languageCode;

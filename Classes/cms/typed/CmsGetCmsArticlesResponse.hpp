@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of articles.
+/// The reply of articles.
 struct CmsGetCmsArticlesResponse {
   std::vector<CmsArticleModel> articles;
 

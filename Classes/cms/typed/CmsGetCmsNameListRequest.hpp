@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_cms_name_list: several content names by id. The ids go out as a JSON array.
+/// get_cms_name_list: several content names by id. The ids go out as a JSON array.
 struct CmsGetCmsNameListRequest {
   std::vector<std::string> cmsNameUids;
   LanguageCode languageCode;

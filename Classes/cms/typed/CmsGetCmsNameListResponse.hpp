@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_cms_name_list.
+/// The reply of get_cms_name_list.
 struct CmsGetCmsNameListResponse {
   std::vector<CmsNameModel> cmsNameList;
 

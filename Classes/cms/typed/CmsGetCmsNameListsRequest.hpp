@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_cms_name_lists: the curated name lists of a content type.
+/// get_cms_name_lists: the curated name lists of a content type.
 struct CmsGetCmsNameListsRequest {
   std::string contentType;
   LanguageCode languageCode;

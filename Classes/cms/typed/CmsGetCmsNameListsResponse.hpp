@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_cms_name_lists.
+/// The reply of get_cms_name_lists.
 struct CmsGetCmsNameListsResponse {
   std::vector<CmsNameListModel> cmsNameLists;
 

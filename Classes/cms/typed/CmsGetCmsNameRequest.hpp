@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_cms_name: one content name by its id.
+/// get_cms_name: one content name by its id.
 struct CmsGetCmsNameRequest {
   std::string cmsNameUid;
   LanguageCode languageCode;

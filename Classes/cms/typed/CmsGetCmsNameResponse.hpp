@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_cms_name.
+/// The reply of get_cms_name.
 struct CmsGetCmsNameResponse {
   CmsNameModel cmsName;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_name_list: the simple items of a category.
+/// get_name_list: the simple items of a category.
 struct CmsGetNameListRequest {
   LanguageCode languageCode;
   std::string countryCode;

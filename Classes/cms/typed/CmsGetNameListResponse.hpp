@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_name_list.
+/// The reply of get_name_list.
 struct CmsGetNameListResponse {
   std::vector<SimpleCmsItemModel> items;
 

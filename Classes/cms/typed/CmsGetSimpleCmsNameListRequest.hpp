@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// get_simple_cms_name_list: the summaries of several content names by id. The ids go out as
-// a JSON array.
+/// get_simple_cms_name_list: the summaries of several content names by id. The ids go out as
+/// a JSON array.
 struct CmsGetSimpleCmsNameListRequest {
   std::vector<std::string> cmsNameUids;
   LanguageCode languageCode;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_simple_cms_name_list, under the same key as get_cms_name_list's.
+/// The reply of get_simple_cms_name_list, under the same key as get_cms_name_list's.
 struct CmsGetSimpleCmsNameListResponse {
   std::vector<SimpleCmsNameModel> cmsNameList;
 

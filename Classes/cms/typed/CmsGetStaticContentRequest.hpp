@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_static_content: the static text of a content type.
+/// get_static_content: the static text of a content type.
 struct CmsGetStaticContentRequest {
   std::string contentType;
   LanguageCode languageCode;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of get_static_content.
+/// The reply of get_static_content.
 struct CmsGetStaticContentResponse {
   std::string content;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_static_url: the light and dark pages of a content type, or of one piece of it by uid.
+/// get_static_url: the light and dark pages of a content type, or of one piece of it by uid.
 struct CmsGetStaticUrlRequest {
   std::string contentType;
   LanguageCode languageCode;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_static_url.
+/// The reply of get_static_url.
 struct CmsGetStaticUrlResponse {
   CmsStaticUrlModel cmsStaticUrl;
 

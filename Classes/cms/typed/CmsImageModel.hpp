@@ -7,7 +7,7 @@
 
 namespace qb {
 
-// An image of a content name, also carried as a tag value. A reply's "illustration" is not read.
+/// An image of a content name, also carried as a tag value. A reply's "illustration" is not read.
 struct CmsImageModel {
   CmsTagValueType type;
   std::string imageUrl;

@@ -7,8 +7,8 @@
 
 namespace qb {
 
-// One block of a content page. The tag names refer to the content's tags (CmsTagModel::tagName)
-// that fill the block on the page and on its sub-page.
+/// One block of a content page. The tag names refer to the content's tags (CmsTagModel::tagName)
+/// that fill the block on the page and on its sub-page.
 struct CmsLayoutModel {
   std::string name;
   CmsLayoutType type;

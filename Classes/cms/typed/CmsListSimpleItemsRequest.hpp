@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// list_simple_items: the simple items of a content type.
+/// list_simple_items: the simple items of a content type.
 struct CmsListSimpleItemsRequest {
   LanguageCode languageCode;
   std::string countryCode;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of list_simple_items.
+/// The reply of list_simple_items.
 struct CmsListSimpleItemsResponse {
   std::vector<SimpleCmsItemModel> items;
 

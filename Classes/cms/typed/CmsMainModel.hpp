@@ -7,8 +7,8 @@
 
 namespace qb {
 
-// A compact reference to a content name, carried as a tag value. Unlike CmsNameModel it requires
-// its main image.
+/// A compact reference to a content name, carried as a tag value. Unlike CmsNameModel it requires
+/// its main image.
 struct CmsMainModel {
   CmsTagValueType type;
   std::string uid;

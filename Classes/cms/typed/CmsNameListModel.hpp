@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// A titled list of content names, such as a curated collection.
+/// A titled list of content names, such as a curated collection.
 struct CmsNameListModel {
   std::string uid;
   std::optional<std::string> title = std::nullopt;

@@ -12,8 +12,8 @@
 
 namespace qb {
 
-// The full description of one content name: its taxonomy, images, page layouts and tags. The main
-// image is optional while the list of matched similar images is required (it may be empty).
+/// The full description of one content name: its taxonomy, images, page layouts and tags. The main
+/// image is optional while the list of matched similar images is required (it may be empty).
 struct CmsNameModel {
   std::string uid;
   TaxonomyNameModel name;

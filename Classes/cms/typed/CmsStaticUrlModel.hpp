@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The pages that render a piece of content in light and in dark mode.
+/// The pages that render a piece of content in light and in dark mode.
 struct CmsStaticUrlModel {
   std::string lightUrl;
   std::string darkUrl;

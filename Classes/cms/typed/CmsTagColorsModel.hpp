@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// A colour tag value.
+/// A colour tag value.
 struct CmsTagColorsModel {
   CmsTagValueType type;
   CmsColor color;

@@ -7,8 +7,8 @@
 
 namespace qb {
 
-// A named group of values. Each tag value stays the JSON object it was given; its "type"
-// (a CmsTagValueType) says which record to decode it as.
+/// A named group of values. Each tag value stays the JSON object it was given; its "type"
+/// (a CmsTagValueType) says which record to decode it as.
 struct CmsTagModel {
   CmsTagValueType type;
   std::string tagName;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// A text tag value, optionally labelled.
+/// A text tag value, optionally labelled.
 struct CmsTagStringModel {
   CmsTagValueType type;
   std::string value;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The kind of a tag value alone, read before choosing the record to decode the value as.
+/// The kind of a tag value alone, read before choosing the record to decode the value as.
 struct CmsTagValueModel {
   CmsTagValueType type;
 

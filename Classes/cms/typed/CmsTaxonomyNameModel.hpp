@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// A taxonomy name carried as a tag value: "type" is the tag-value kind and "taxonomy_type" the
-// rank.
+/// A taxonomy name carried as a tag value: "type" is the tag-value kind and "taxonomy_type" the
+/// rank.
 struct CmsTaxonomyNameModel {
   CmsTagValueType type;
   TaxonomyType taxonomyType;

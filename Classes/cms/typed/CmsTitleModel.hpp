@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The heading of a layout or tag block, with an icon for each display mode.
+/// The heading of a layout or tag block, with an icon for each display mode.
 struct CmsTitleModel {
   std::optional<std::string> displayName = std::nullopt;
   std::optional<std::string> lightModeIconUrl = std::nullopt;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// user_feedback: the user's feedback on content, with the device it was sent from.
+/// user_feedback: the user's feedback on content, with the device it was sent from.
 struct CmsUserFeedbackRequest {
   std::string userId;
   LanguageCode languageCode;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of user_feedback; it carries nothing but success.
+/// The reply of user_feedback; it carries nothing but success.
 struct CmsUserFeedbackResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(CmsUserFeedbackResponse)

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// A video of a content name.
+/// A video of a content name.
 struct CmsVideoModel {
   VideoClassification videoClassification;
   std::string title;

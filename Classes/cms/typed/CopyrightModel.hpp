@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The attribution of an image. "authorlink" is one word on the wire.
+/// The attribution of an image. "authorlink" is one word on the wire.
 struct CopyrightModel {
   std::optional<std::string> author = std::nullopt;
   std::optional<std::vector<std::string>> certIcons = std::nullopt;

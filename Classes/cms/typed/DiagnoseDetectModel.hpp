@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The regions of a photo in which a disease was detected.
+/// The regions of a photo in which a disease was detected.
 struct DiagnoseDetectModel {
   std::vector<DiagnoseDetectRegionModel> regions;
 

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// One detected region of a photo with its scores.
+/// One detected region of a photo with its scores.
 struct DiagnoseDetectRegionModel {
   std::vector<double> region;
   double detectionScore;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// One way of obtaining a book.
+/// One way of obtaining a book.
 struct PriceTierModel {
   std::int64_t type;
   std::int64_t vipOnly;

@@ -7,7 +7,7 @@
 
 namespace qb {
 
-// A short reference to a related disease.
+/// A short reference to a related disease.
 struct SimpleCmsDiseaseModel {
   std::string uid;
   std::optional<std::string> commonName = std::nullopt;

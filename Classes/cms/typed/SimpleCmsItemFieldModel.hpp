@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// One extra key and value shown with a simple item.
+/// One extra key and value shown with a simple item.
 struct SimpleCmsItemFieldModel {
   std::string key;
   std::string value;

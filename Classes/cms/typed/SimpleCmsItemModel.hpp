@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// One entry of a simple item list.
+/// One entry of a simple item list.
 struct SimpleCmsItemModel {
   std::string uid;
   std::string mainImageUrl;

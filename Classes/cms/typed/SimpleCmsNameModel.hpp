@@ -7,7 +7,7 @@
 
 namespace qb {
 
-// The summary of a content name shown in lists. "properties" is carried unread.
+/// The summary of a content name shown in lists. "properties" is carried unread.
 struct SimpleCmsNameModel {
   std::string uid;
   std::optional<std::string> taxonomyTypeName = std::nullopt;

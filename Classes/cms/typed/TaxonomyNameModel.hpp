@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// One rank of a taxonomy: the name itself, its parent, its family or an entry of a name's
-// taxonomies. Every field but the common names is required.
+/// One rank of a taxonomy: the name itself, its parent, its family or an entry of a name's
+/// taxonomies. Every field but the common names is required.
 struct TaxonomyNameModel {
   std::string uid;
   TaxonomyType type;

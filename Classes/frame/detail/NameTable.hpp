@@ -16,7 +16,7 @@ constexpr std::uint32_t keyHash(std::string_view text, std::uint32_t seed) noexc
   return h ^ (h >> 15);
 }
 
-// Names: a constexpr std::array<std::string_view, N> with static storage, its names distinct.
+/// Names: a constexpr std::array<std::string_view, N> with static storage, its names distinct.
 template <const auto& Names>
 struct NameTable {
   static constexpr std::size_t count = Names.size();
@@ -25,7 +25,7 @@ struct NameTable {
   struct Layout {
     std::uint32_t seed = 0;
     std::uint32_t mask = 0;
-    std::array<std::uint8_t, 256> slots{};  // name index + 1; 0 = empty
+    std::array<std::uint8_t, 256> slots{};  ///< name index + 1; 0 = empty
     bool found = false;
   };
 
@@ -56,7 +56,7 @@ struct NameTable {
   }();
   static_assert(layout.found, "the names must be distinct");
 
-  // The index of `text` among the names, or -1: names match only by their exact text.
+  /// The index of `text` among the names, or -1: names match only by their exact text.
   static constexpr int find(std::string_view text) noexcept {
     if constexpr (count == 0) {
       return -1;

@@ -58,14 +58,14 @@ void decodeValue(N& node, T& out);
 template <class N, class T>
 void decodeRecord(N& node, T& out);
 
-// A node whose failures need no detail: its decoder decodes the reply once more through a node that
-// reports errors, which meets the same failure. It declares `static constexpr bool kFailuresAreRetried
-// = true` and is spared the coding paths and the null checks of required members (a null fails the
-// member's read anyway).
+/// A node whose failures need no detail: its decoder decodes the reply once more through a node that
+/// reports errors, which meets the same failure. It declares `static constexpr bool kFailuresAreRetried
+/// = true` and is spared the coding paths and the null checks of required members (a null fails the
+/// member's read anyway).
 template <class N>
 concept RetryingNode = requires { requires N::kFailuresAreRetried; };
 
-// Runs decode(); a DecodingError leaves it with element() in front of its coding path.
+/// Runs decode(); a DecodingError leaves it with element() in front of its coding path.
 template <class N, class Decode, class Element>
 void withinPath(Decode&& decode, Element&& element) {
   if constexpr (RetryingNode<N>) {
@@ -79,7 +79,7 @@ void withinPath(Decode&& decode, Element&& element) {
   }
 }
 
-// The required form: null is valueNotFound; the if-present form: null leaves the member absent.
+/// The required form: null is valueNotFound; the if-present form: null leaves the member absent.
 template <class N, class M>
 void decodeMember(N& node, M& member) {
   if constexpr (std::is_same_v<M, AnyCodable>) {

@@ -8,12 +8,12 @@
 namespace qb::detail {
 
 struct Utf8Sequence {
-  std::size_t length;  // bytes of the sequence; 0 when the bytes at the start are none
-  bool truncated;      // the start of a well-formed sequence that the end of the text cuts off
+  std::size_t length;  ///< bytes of the sequence; 0 when the bytes at the start are none
+  bool truncated;      ///< the start of a well-formed sequence that the end of the text cuts off
 };
 
-// The multi-byte sequence at the start of `text`, as the Unicode standard defines well-formed ones: no
-// overlong forms, no encoded surrogates, nothing past U+10FFFF. A lone ASCII byte is not one.
+/// The multi-byte sequence at the start of `text`, as the Unicode standard defines well-formed ones: no
+/// overlong forms, no encoded surrogates, nothing past U+10FFFF. A lone ASCII byte is not one.
 constexpr Utf8Sequence utf8Sequence(std::string_view text) noexcept {
   if (text.empty()) return {0, false};
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };

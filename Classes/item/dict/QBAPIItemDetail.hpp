@@ -7,9 +7,9 @@ namespace qb {
 class QBAPICmsName;
 class QBAPIItemImage;
 
-// One item of the collection in full: the simple item's fields and the identification result, the
-// candidate content names and their scores index for index (an empty list of names is a valid result).
-// This face has no disease id for a detailed item: "disease_uid" is neither read nor written.
+/// One item of the collection in full: the simple item's fields and the identification result, the
+/// candidate content names and their scores index for index (an empty list of names is a valid result).
+/// This face has no disease id for a detailed item: "disease_uid" is neither read nor written.
 class QBAPIItemDetail final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIItemDetail, "ItemDetail")
   QB_VALUE(itemId, ItemId)

@@ -4,8 +4,8 @@
 
 namespace qb {
 
-// The addresses of an item's photograph in its several sizes. Every field is optional: an empty map is a
-// valid image set.
+/// The addresses of an item's photograph in its several sizes. Every field is optional: an empty map is a
+/// valid image set.
 class QBAPIItemImage final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIItemImage, "ItemImage")
   QB_VALUE(iconUrl, IconUrl)

@@ -6,8 +6,8 @@ namespace qb {
 
 class QBAPIItemImage;
 
-// One entry of the user's collection as the collection lists show it. shootAt is the number the reply
-// gave (its unit is the server's); properties and cmsCacheBusinessFields are opaque texts.
+/// One entry of the user's collection as the collection lists show it. shootAt is the number the reply
+/// gave (its unit is the server's); properties and cmsCacheBusinessFields are opaque texts.
 class QBAPISimpleItem final : public QBAPIModel {
   QB_DICT_MODEL(QBAPISimpleItem, "SimpleItem")
   QB_VALUE(itemId, ItemId)

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// change_item_cms_name: points an item at another content name (its id and its display name).
+/// change_item_cms_name: points an item at another content name (its id and its display name).
 class QBItemChangeItemCmsNameMessage final : public DictMessage<QBItemChangeItemCmsNameMessage> {
   QB_DICT_MESSAGE(QBItemChangeItemCmsNameMessage, "ChangeItemCmsName", item::kChangeItemCmsName)
   static std::shared_ptr<QBItemChangeItemCmsNameMessage> initWithData(std::optional<JsonValue> itemId,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// delete_item: removes one item from the collection.
+/// delete_item: removes one item from the collection.
 class QBItemDeleteItemMessage final : public DictMessage<QBItemDeleteItemMessage> {
   QB_DICT_MESSAGE(QBItemDeleteItemMessage, "DeleteItem", item::kDeleteItem)
   static std::shared_ptr<QBItemDeleteItemMessage> initWithData(std::optional<JsonValue> itemId) {

@@ -7,11 +7,11 @@ namespace qb {
 
 class QBAPIItemDetail;
 
-// get_item_detail: one item of the collection in full, with its names in a language and country.
+/// get_item_detail: one item of the collection in full, with its names in a language and country.
 class QBItemGetItemDetailMessage final : public DictMessage<QBItemGetItemDetailMessage> {
   QB_DICT_MESSAGE(QBItemGetItemDetailMessage, "GetItemDetail", item::kGetItemDetail)
-  // languageCode is the number of a qb::LanguageCode; signImageUrl is a number used as a boolean (ask
-  // for signed image addresses).
+  /// languageCode is the number of a qb::LanguageCode; signImageUrl is a number used as a boolean (ask
+  /// for signed image addresses).
   static std::shared_ptr<QBItemGetItemDetailMessage> initWithData(std::optional<JsonValue> itemId,
                                                                   std::int64_t languageCode,
                                                                   std::optional<JsonValue> countryCode,

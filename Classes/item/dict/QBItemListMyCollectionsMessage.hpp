@@ -7,8 +7,8 @@ namespace qb {
 
 class QBAPISimpleItem;
 
-// list_my_collections: the whole collection in one reply. Both parameters are numbers used as booleans,
-// passed through to the server and sent only when set.
+/// list_my_collections: the whole collection in one reply. Both parameters are numbers used as booleans,
+/// passed through to the server and sent only when set.
 class QBItemListMyCollectionsMessage final : public DictMessage<QBItemListMyCollectionsMessage> {
   QB_DICT_MESSAGE(QBItemListMyCollectionsMessage, "ListMyCollections", item::kListMyCollections)
   static std::shared_ptr<QBItemListMyCollectionsMessage> initWithData(std::optional<JsonValue> returnFirstItemInBatch,

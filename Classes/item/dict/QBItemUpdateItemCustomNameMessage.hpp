@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update_item_custom_name: the user's own name for an item.
+/// update_item_custom_name: the user's own name for an item.
 class QBItemUpdateItemCustomNameMessage final : public DictMessage<QBItemUpdateItemCustomNameMessage> {
   QB_DICT_MESSAGE(QBItemUpdateItemCustomNameMessage, "UpdateItemCustomName", item::kUpdateItemCustomName)
   static std::shared_ptr<QBItemUpdateItemCustomNameMessage> initWithData(std::optional<JsonValue> itemId,

@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// update_item_custom_note: the user's own note on an item. The reply gives the note back as the server
-// stored it, with signed addresses.
+/// update_item_custom_note: the user's own note on an item. The reply gives the note back as the server
+/// stored it, with signed addresses.
 class QBItemUpdateItemCustomNoteMessage final : public DictMessage<QBItemUpdateItemCustomNoteMessage> {
   QB_DICT_MESSAGE(QBItemUpdateItemCustomNoteMessage, "UpdateItemCustomNote", item::kUpdateItemCustomNote)
   static std::shared_ptr<QBItemUpdateItemCustomNoteMessage> initWithData(std::optional<JsonValue> itemId,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update_item_location: where an item's photograph was taken, in degrees.
+/// update_item_location: where an item's photograph was taken, in degrees.
 class QBItemUpdateItemLocationMessage final : public DictMessage<QBItemUpdateItemLocationMessage> {
   QB_DICT_MESSAGE(QBItemUpdateItemLocationMessage, "UpdateItemLocation", item::kUpdateItemLocation)
   static std::shared_ptr<QBItemUpdateItemLocationMessage> initWithData(std::optional<JsonValue> itemId,

@@ -5,9 +5,9 @@
 
 namespace qb {
 
-// update_item_original_image_url: records the address of an item's original photograph, uploaded
-// elsewhere, with what is known of the file (SHA-1 digest as text, pixel height and width, size in bytes,
-// format name).
+/// update_item_original_image_url: records the address of an item's original photograph, uploaded
+/// elsewhere, with what is known of the file (SHA-1 digest as text, pixel height and width, size in bytes,
+/// format name).
 class QBItemUpdateItemOriginalImageUrlMessage final : public DictMessage<QBItemUpdateItemOriginalImageUrlMessage> {
   QB_DICT_MESSAGE(QBItemUpdateItemOriginalImageUrlMessage, "UpdateItemOriginalImageUrl",
                   item::kUpdateItemOriginalImageUrl)

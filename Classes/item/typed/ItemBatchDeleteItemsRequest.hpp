@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// batch_delete_items: removes several items from the collection at once.
+/// batch_delete_items: removes several items from the collection at once.
 struct ItemBatchDeleteItemsRequest {
   std::vector<std::int64_t> itemIds;
 

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of batch_delete_items; it carries nothing but success.
+/// The reply of batch_delete_items; it carries nothing but success.
 struct ItemBatchDeleteItemsResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemBatchDeleteItemsResponse)

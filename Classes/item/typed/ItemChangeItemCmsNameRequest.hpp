@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// change_item_cms_name: points an item at another content name (its id and its display name).
+/// change_item_cms_name: points an item at another content name (its id and its display name).
 struct ItemChangeItemCmsNameRequest {
   std::int64_t itemId;
   std::string cmsNameUid;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of change_item_cms_name; it carries nothing but success.
+/// The reply of change_item_cms_name; it carries nothing but success.
 struct ItemChangeItemCmsNameResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemChangeItemCmsNameResponse)

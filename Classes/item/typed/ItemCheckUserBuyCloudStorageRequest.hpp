@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// check_user_buy_cloud_storage: whether the user has bought cloud storage.
+/// check_user_buy_cloud_storage: whether the user has bought cloud storage.
 struct ItemCheckUserBuyCloudStorageRequest {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_REQUEST(item::kCheckUserBuyCloudStorage, ItemCheckUserBuyCloudStorageResponse)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of check_user_buy_cloud_storage: whether the user has bought cloud storage.
+/// The reply of check_user_buy_cloud_storage: whether the user has bought cloud storage.
 struct ItemCheckUserBuyCloudStorageResponse {
   bool hasBuyCloudStorage;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// delete_item: removes one item from the collection.
+/// delete_item: removes one item from the collection.
 struct ItemDeleteItemRequest {
   std::int64_t itemId;
 

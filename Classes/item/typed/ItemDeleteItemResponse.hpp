@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of delete_item; it carries nothing but success.
+/// The reply of delete_item; it carries nothing but success.
 struct ItemDeleteItemResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemDeleteItemResponse)

@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// One item of the collection in full: the simple item's fields and the identification result, the
-// candidate content names and their scores index for index (both lists may be empty, neither absent).
+/// One item of the collection in full: the simple item's fields and the identification result, the
+/// candidate content names and their scores index for index (both lists may be empty, neither absent).
 struct ItemDetailModel {
   std::int64_t itemId;
   ItemImageModel itemImage;

@@ -6,12 +6,12 @@
 
 namespace qb {
 
-// get_item_detail: one item of the collection in full, with its names in a language and country.
+/// get_item_detail: one item of the collection in full, with its names in a language and country.
 struct ItemGetItemDetailRequest {
   std::int64_t itemId;
   LanguageCode languageCode;
   std::string countryCode;
-  // Ask for signed image addresses.
+  /// Ask for signed image addresses.
   std::optional<bool> signImageUrl = std::nullopt;
 
   static constexpr auto codingKeys = qb::codingKeys(qb::key("item_id", &ItemGetItemDetailRequest::itemId),

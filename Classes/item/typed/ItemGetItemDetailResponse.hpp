@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_item_detail.
+/// The reply of get_item_detail.
 struct ItemGetItemDetailResponse {
   ItemDetailModel item;
 

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The addresses of an item's photograph in its several sizes; every one may be absent.
+/// The addresses of an item's photograph in its several sizes; every one may be absent.
 struct ItemImageModel {
   std::optional<std::string> iconUrl = std::nullopt;
   std::optional<std::string> thumbnailUrl = std::nullopt;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// item_delete_notified: tells the server that the user has seen the notice that stored items are to be deleted.
+/// item_delete_notified: tells the server that the user has seen the notice that stored items are to be deleted.
 struct ItemItemDeleteNotifiedRequest {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_REQUEST(item::kItemDeleteNotified, ItemItemDeleteNotifiedResponse)

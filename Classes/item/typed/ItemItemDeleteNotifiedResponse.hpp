@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of item_delete_notified; it carries nothing but success.
+/// The reply of item_delete_notified; it carries nothing but success.
 struct ItemItemDeleteNotifiedResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemItemDeleteNotifiedResponse)

@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// list_my_collections_page: one page of the collection. The next page is asked for with the item_id of the last item
-// received as lastItemId; specifyItemIds asks for those items only.
+/// list_my_collections_page: one page of the collection. The next page is asked for with the item_id of the last item
+/// received as lastItemId; specifyItemIds asks for those items only.
 struct ItemListMyCollectionsPageRequest {
   std::optional<std::int64_t> pageSize = std::nullopt;
   std::optional<std::int64_t> lastItemId = std::nullopt;

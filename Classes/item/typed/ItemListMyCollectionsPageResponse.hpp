@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// The reply of list_my_collections_page: the page's items in the server's order, and nothing else (the
-// next page starts after the item_id of the last one).
+/// The reply of list_my_collections_page: the page's items in the server's order, and nothing else (the
+/// next page starts after the item_id of the last one).
 struct ItemListMyCollectionsPageResponse {
   std::vector<SimpleItemModel> items;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// list_my_collections: the whole collection in one reply; both flags are passed through to the server.
+/// list_my_collections: the whole collection in one reply; both flags are passed through to the server.
 struct ItemListMyCollectionsRequest {
   std::optional<bool> returnFirstItemInBatch = std::nullopt;
   std::optional<bool> signImageUrl = std::nullopt;

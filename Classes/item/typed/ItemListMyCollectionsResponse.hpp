@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of list_my_collections: the whole collection.
+/// The reply of list_my_collections: the whole collection.
 struct ItemListMyCollectionsResponse {
   std::vector<SimpleItemModel> items;
 

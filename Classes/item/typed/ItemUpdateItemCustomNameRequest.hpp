@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// update_item_custom_name: the user's own name for an item.
+/// update_item_custom_name: the user's own name for an item.
 struct ItemUpdateItemCustomNameRequest {
   std::int64_t itemId;
   std::string uid;

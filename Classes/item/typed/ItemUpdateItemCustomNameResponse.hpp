@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_item_custom_name; it carries nothing but success.
+/// The reply of update_item_custom_name; it carries nothing but success.
 struct ItemUpdateItemCustomNameResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemUpdateItemCustomNameResponse)

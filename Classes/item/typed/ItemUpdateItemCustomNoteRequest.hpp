@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// update_item_custom_note: the user's own note on an item.
+/// update_item_custom_note: the user's own note on an item.
 struct ItemUpdateItemCustomNoteRequest {
   std::int64_t itemId;
   std::string note;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_item_custom_note: the note as the server stored it, with signed addresses.
+/// The reply of update_item_custom_note: the note as the server stored it, with signed addresses.
 struct ItemUpdateItemCustomNoteResponse {
   std::string notesWithSignedUrl;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// update_item_location: where an item's photograph was taken, in degrees.
+/// update_item_location: where an item's photograph was taken, in degrees.
 struct ItemUpdateItemLocationRequest {
   std::int64_t itemId;
   double lng;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_item_location; it carries nothing but success.
+/// The reply of update_item_location; it carries nothing but success.
 struct ItemUpdateItemLocationResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemUpdateItemLocationResponse)

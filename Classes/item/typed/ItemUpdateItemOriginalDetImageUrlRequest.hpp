@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// update_item_original_det_image_url: the same facts of an uploaded original as update_item_original_image_url
-// records, with the address under its own key.
+/// update_item_original_det_image_url: the same facts of an uploaded original as update_item_original_image_url
+/// records, with the address under its own key.
 struct ItemUpdateItemOriginalDetImageUrlRequest {
   std::int64_t itemId;
   std::string originalDetImageUrl;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_item_original_det_image_url; it carries nothing but success.
+/// The reply of update_item_original_det_image_url; it carries nothing but success.
 struct ItemUpdateItemOriginalDetImageUrlResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemUpdateItemOriginalDetImageUrlResponse)

@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// update_item_original_image_url: records the address of an item's original photograph, uploaded elsewhere, with what
-// is known of the file (SHA-1 digest as text, pixel height and width, size in bytes, format name).
+/// update_item_original_image_url: records the address of an item's original photograph, uploaded elsewhere, with what
+/// is known of the file (SHA-1 digest as text, pixel height and width, size in bytes, format name).
 struct ItemUpdateItemOriginalImageUrlRequest {
   std::int64_t itemId;
   std::string originalImageUrl;

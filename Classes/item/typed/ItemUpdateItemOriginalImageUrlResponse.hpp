@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_item_original_image_url; it carries nothing but success.
+/// The reply of update_item_original_image_url; it carries nothing but success.
 struct ItemUpdateItemOriginalImageUrlResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(ItemUpdateItemOriginalImageUrlResponse)

@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// One entry of the user's collection as the collection lists show it. properties and
-// cmsCacheBusinessFields are opaque texts; lng and lat are degrees, 0 being a place like any other.
+/// One entry of the user's collection as the collection lists show it. properties and
+/// cmsCacheBusinessFields are opaque texts; lng and lat are degrees, 0 being a place like any other.
 struct SimpleItemModel {
   std::int64_t itemId;
   ItemImageModel itemImage;

@@ -7,8 +7,8 @@
 
 namespace qb {
 
-// get_cms_share_urls: share links for a piece of content. The item, share ids and fields are
-// passed through as given.
+/// get_cms_share_urls: share links for a piece of content. The item, share ids and fields are
+/// passed through as given.
 struct ShareGetCmsShareUrlsRequest {
   std::string uid;
   std::vector<std::string> contentTypes;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_cms_share_urls.
+/// The reply of get_cms_share_urls.
 struct ShareGetCmsShareUrlsResponse {
   std::vector<ShareUrlModel> shareUrls;
 

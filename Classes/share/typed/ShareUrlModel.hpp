@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The light and dark page of a share link.
+/// The light and dark page of a share link.
 struct ShareUrlModel {
   std::string lightUrl;
   std::string darkUrl;

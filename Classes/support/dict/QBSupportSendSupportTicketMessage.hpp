@@ -5,12 +5,12 @@
 
 namespace qb {
 
-// send_support_ticket, the older message: the same ticket, checks and reasons as
-// SPSupportSendSupportTicketMessage, without extra fields (it never sends "extra_fields"). The images
-// and tags each travel as the JSON text of their list. The reply carries nothing to read.
+/// send_support_ticket, the older message: the same ticket, checks and reasons as
+/// SPSupportSendSupportTicketMessage, without extra fields (it never sends "extra_fields"). The images
+/// and tags each travel as the JSON text of their list. The reply carries nothing to read.
 class QBSupportSendSupportTicketMessage final : public DictMessage<QBSupportSendSupportTicketMessage> {
   QB_DICT_MESSAGE(QBSupportSendSupportTicketMessage, "SendSupportTicket", support::kSendSupportTicketWithoutExtraFields)
-  // supportType is the number of a qb::SupportType, languageCode that of a qb::LanguageCode.
+  /// supportType is the number of a qb::SupportType, languageCode that of a qb::LanguageCode.
   static std::shared_ptr<QBSupportSendSupportTicketMessage> initWithData(
       std::optional<JsonValue> email, std::int64_t supportType, std::int64_t languageCode,
       std::optional<JsonValue> countryCode, std::optional<JsonValue> content, std::optional<JsonList> images,

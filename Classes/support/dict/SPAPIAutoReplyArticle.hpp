@@ -6,7 +6,7 @@ namespace qb {
 
 class QBAPICmsStaticUrl;
 
-// One article suggested as the answer to a question the user typed. No field is required.
+/// One article suggested as the answer to a question the user typed. No field is required.
 class SPAPIAutoReplyArticle final : public QBAPIModel {
   QB_DICT_MODEL(SPAPIAutoReplyArticle, "AutoReplyArticle")
   QB_VALUE(question, Question)

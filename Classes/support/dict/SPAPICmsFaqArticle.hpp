@@ -6,9 +6,9 @@ namespace qb {
 
 class QBAPICmsStaticUrl;
 
-// One article of the FAQ catalogue, with the pages that render it. Every field is required; `type` and
-// `feedType` are the service's numbers, kept as they came. The reason for a missing page names the
-// field "CmsStaticUrl", capitalised, as it always has.
+/// One article of the FAQ catalogue, with the pages that render it. Every field is required; `type` and
+/// `feedType` are the service's numbers, kept as they came. The reason for a missing page names the
+/// field "CmsStaticUrl", capitalised, as it always has.
 class SPAPICmsFaqArticle final : public QBAPIModel {
   QB_DICT_MODEL(SPAPICmsFaqArticle, "CmsFaqArticle")
   QB_VALUE(uid, Uid)

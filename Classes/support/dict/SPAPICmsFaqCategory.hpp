@@ -6,8 +6,8 @@ namespace qb {
 
 class SPAPICmsFaqArticle;
 
-// One category of the FAQ catalogue and its articles. Every field is required; an empty article list
-// is present.
+/// One category of the FAQ catalogue and its articles. Every field is required; an empty article list
+/// is present.
 class SPAPICmsFaqCategory final : public QBAPIModel {
   QB_DICT_MODEL(SPAPICmsFaqCategory, "CmsFaqCategory")
   QB_VALUE(uid, Uid)

@@ -7,10 +7,10 @@ namespace qb {
 
 class SPAPICmsFaqCategory;
 
-// get_faq_from_cms: the FAQ catalogue, by category, for a language and country.
+/// get_faq_from_cms: the FAQ catalogue, by category, for a language and country.
 class SPSupportGetFaqFromCmsMessage final : public DictMessage<SPSupportGetFaqFromCmsMessage> {
   QB_DICT_MESSAGE(SPSupportGetFaqFromCmsMessage, "GetFaqFromCms", support::kGetFaqFromCms)
-  // languageCode is the number of a qb::LanguageCode.
+  /// languageCode is the number of a qb::LanguageCode.
   static std::shared_ptr<SPSupportGetFaqFromCmsMessage> initWithData(std::int64_t languageCode,
                                                                      std::optional<JsonValue> countryCode) {
     return make<&Self::languageCode_, &Self::countryCode_>(languageCode, std::move(countryCode));

@@ -7,10 +7,10 @@ namespace qb {
 
 class SPAPICmsFaqCategory;
 
-// get_popular_faq_from_cms: the most read FAQ, by category, for a language and country.
+/// get_popular_faq_from_cms: the most read FAQ, by category, for a language and country.
 class SPSupportGetPopularFaqFromCmsMessage final : public DictMessage<SPSupportGetPopularFaqFromCmsMessage> {
   QB_DICT_MESSAGE(SPSupportGetPopularFaqFromCmsMessage, "GetPopularFaqFromCms", support::kGetPopularFaqFromCms)
-  // languageCode is the number of a qb::LanguageCode.
+  /// languageCode is the number of a qb::LanguageCode.
   static std::shared_ptr<SPSupportGetPopularFaqFromCmsMessage> initWithData(std::int64_t languageCode,
                                                                             std::optional<JsonValue> countryCode) {
     return make<&Self::languageCode_, &Self::countryCode_>(languageCode, std::move(countryCode));

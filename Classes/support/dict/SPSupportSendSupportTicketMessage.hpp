@@ -5,13 +5,13 @@
 
 namespace qb {
 
-// send_support_ticket: a message to the support team, with image addresses, tags and any further fields
-// the app wants the team to see. The images and tags each travel as the JSON text of their list (one
-// string value), the extra fields as the compact JSON text of their map. The reply carries nothing to
-// read.
+/// send_support_ticket: a message to the support team, with image addresses, tags and any further fields
+/// the app wants the team to see. The images and tags each travel as the JSON text of their list (one
+/// string value), the extra fields as the compact JSON text of their map. The reply carries nothing to
+/// read.
 class SPSupportSendSupportTicketMessage final : public DictMessage<SPSupportSendSupportTicketMessage> {
   QB_DICT_MESSAGE(SPSupportSendSupportTicketMessage, "SendSupportTicket", support::kSendSupportTicket)
-  // supportType is the number of a qb::SupportType, languageCode that of a qb::LanguageCode.
+  /// supportType is the number of a qb::SupportType, languageCode that of a qb::LanguageCode.
   static std::shared_ptr<SPSupportSendSupportTicketMessage> initWithData(
       std::optional<JsonValue> email, std::int64_t supportType, std::int64_t languageCode,
       std::optional<JsonValue> countryCode, std::optional<JsonValue> content, std::optional<JsonList> images,

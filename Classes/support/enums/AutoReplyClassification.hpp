@@ -5,9 +5,9 @@
 
 namespace qb {
 
-// The topic the service assigned to a question the user typed. Unknown values, negative ones included,
-// decode as `other`, so that a new topic never breaks a reply; building one from an unknown raw value
-// still gives nothing.
+/// The topic the service assigned to a question the user typed. Unknown values, negative ones included,
+/// decode as `other`, so that a new topic never breaks a reply; building one from an unknown raw value
+/// still gives nothing.
 enum class AutoReplyClassification : std::int64_t {
   other = 0,
   garden = 1,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The kind of support ticket: who should answer it.
+/// The kind of support ticket: who should answer it.
 enum class SupportType : std::int64_t {
   normalSupport = 0,
   vipSupport = 1,

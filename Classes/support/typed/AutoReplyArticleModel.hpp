@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// One article suggested as the answer to a question the user typed.
+/// One article suggested as the answer to a question the user typed.
 struct AutoReplyArticleModel {
   std::optional<std::string> question = std::nullopt;
   std::optional<CmsStaticUrlModel> cmsStaticUrl = std::nullopt;

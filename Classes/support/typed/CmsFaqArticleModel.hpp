@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// One article of the FAQ catalogue, with the pages that render it. `type` and `feedType` are the
-// service's numbers, passed through.
+/// One article of the FAQ catalogue, with the pages that render it. `type` and `feedType` are the
+/// service's numbers, passed through.
 struct CmsFaqArticleModel {
   std::string uid;
   std::string title;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// One category of the FAQ catalogue and its articles.
+/// One category of the FAQ catalogue and its articles.
 struct CmsFaqCategoryModel {
   std::string uid;
   std::string title;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_customer_support_auto_reply: an automatic answer to a question the user typed.
+/// get_customer_support_auto_reply: an automatic answer to a question the user typed.
 struct SupportGetCustomerSupportAutoReplyRequest {
   LanguageCode languageCode;
   std::string countryCode;

@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// The reply of get_customer_support_auto_reply: the question's topic (an unknown one reads as `other`)
-// and the articles that match it.
+/// The reply of get_customer_support_auto_reply: the question's topic (an unknown one reads as `other`)
+/// and the articles that match it.
 struct SupportGetCustomerSupportAutoReplyResponse {
   AutoReplyClassification classification;
   std::optional<std::vector<AutoReplyArticleModel>> autoReplyArticle = std::nullopt;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_faq_from_cms: the FAQ catalogue, by category, for a language and country.
+/// get_faq_from_cms: the FAQ catalogue, by category, for a language and country.
 struct SupportGetFaqFromCmsRequest {
   LanguageCode languageCode;
   std::string countryCode;

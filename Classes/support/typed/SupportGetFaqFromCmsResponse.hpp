@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_faq_from_cms.
+/// The reply of get_faq_from_cms.
 struct SupportGetFaqFromCmsResponse {
   std::vector<CmsFaqCategoryModel> cmsFaqCategoryList;
 

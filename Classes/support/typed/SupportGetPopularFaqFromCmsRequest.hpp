@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_popular_faq_from_cms: the most read FAQ, by category, for a language and country.
+/// get_popular_faq_from_cms: the most read FAQ, by category, for a language and country.
 struct SupportGetPopularFaqFromCmsRequest {
   LanguageCode languageCode;
   std::string countryCode;

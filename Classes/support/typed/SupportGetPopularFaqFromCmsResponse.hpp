@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_popular_faq_from_cms.
+/// The reply of get_popular_faq_from_cms.
 struct SupportGetPopularFaqFromCmsResponse {
   std::vector<CmsFaqCategoryModel> cmsFaqCategoryList;
 

@@ -8,8 +8,8 @@
 
 namespace qb {
 
-// send_support_ticket: a message to the support team. The images and tags go out as JSON lists, the
-// extra fields as a JSON object of the values as given.
+/// send_support_ticket: a message to the support team. The images and tags go out as JSON lists, the
+/// extra fields as a JSON object of the values as given.
 struct SupportSendSupportTicketRequest {
   std::string email;
   SupportType supportType;

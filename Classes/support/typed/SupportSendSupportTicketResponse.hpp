@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of send_support_ticket; it carries nothing but success.
+/// The reply of send_support_ticket; it carries nothing but success.
 struct SupportSendSupportTicketResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(SupportSendSupportTicketResponse)

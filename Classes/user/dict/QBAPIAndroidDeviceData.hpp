@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The advertising identifier of an Android device.
+/// The advertising identifier of an Android device.
 class QBAPIAndroidDeviceData final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIAndroidDeviceData, "AndroidDeviceData")
   QB_VALUE(gaid, Gaid)

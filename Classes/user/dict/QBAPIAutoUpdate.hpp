@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// Whether a newer app version exists and whether it must be installed.
+/// Whether a newer app version exists and whether it must be installed.
 class QBAPIAutoUpdate final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIAutoUpdate, "AutoUpdate")
   QB_VALUE(hasUpdate, HasUpdate)

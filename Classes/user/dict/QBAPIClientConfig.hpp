@@ -7,7 +7,7 @@ namespace qb {
 class QBAPIAutoUpdate;
 class QBAPILegalConfig;
 
-// The client configuration returned by initialise and get_config.
+/// The client configuration returned by initialise and get_config.
 class QBAPIClientConfig final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIClientConfig, "ClientConfig")
   QB_MODEL(QBAPIAutoUpdate, autoUpdate, AutoUpdate)

@@ -7,7 +7,7 @@ namespace qb {
 class QBAPIAndroidDeviceData;
 class QBAPIIosDeviceData;
 
-// Attribution identifiers and the app's locale and version.
+/// Attribution identifiers and the app's locale and version.
 class QBAPIDeviceDetailInfo final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIDeviceDetailInfo, "DeviceDetailInfo")
   QB_VALUE(appsFlyerId, AppsFlyerId)

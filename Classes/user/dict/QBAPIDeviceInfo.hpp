@@ -6,7 +6,7 @@ namespace qb {
 
 class QBAPIDeviceDetailInfo;
 
-// The device the app runs on.
+/// The device the app runs on.
 class QBAPIDeviceInfo final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIDeviceInfo, "DeviceInfo")
   QB_INTEGER(deviceType, DeviceType)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// One entry of the account FAQ.
+/// One entry of the account FAQ.
 class QBAPIFaq final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIFaq, "Faq")
   QB_VALUE(title, Title)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// Advertising identifiers of an iOS device.
+/// Advertising identifiers of an iOS device.
 class QBAPIIosDeviceData final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIIosDeviceData, "IosDeviceData")
   QB_VALUE(idfa, Idfa)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The current and next user agreement and the privacy documents.
+/// The current and next user agreement and the privacy documents.
 class QBAPILegalConfig final : public QBAPIModel {
   QB_DICT_MODEL(QBAPILegalConfig, "LegalConfig")
   QB_VALUE(agreementUrl, AgreementUrl)

@@ -6,7 +6,7 @@ namespace qb {
 
 class QBAPIThirdPartyUserInfo;
 
-// The credentials the app sends to log in or create an account.
+/// The credentials the app sends to log in or create an account.
 class QBAPILoginInfo final : public QBAPIModel {
   QB_DICT_MODEL(QBAPILoginInfo, "LoginInfo")
   QB_INTEGER(loginType, LoginType)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// One way in which an account can log in.
+/// One way in which an account can log in.
 class QBAPILoginMethod final : public QBAPIModel {
   QB_DICT_MODEL(QBAPILoginMethod, "LoginMethod")
   QB_INTEGER(type, Type)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// Profile data an outside account provider supplies with a sign-in.
+/// Profile data an outside account provider supplies with a sign-in.
 class QBAPIThirdPartyUserInfo final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIThirdPartyUserInfo, "ThirdPartyUserInfo")
   QB_VALUE(nickname, Nickname)

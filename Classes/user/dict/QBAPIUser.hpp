@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The account: identity, profile, subscription flags and free-form properties.
+/// The account: identity, profile, subscription flags and free-form properties.
 class QBAPIUser final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIUser, "User")
   QB_VALUE(userId, UserId)

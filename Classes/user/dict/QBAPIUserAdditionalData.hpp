@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// Flags that accompany the user in every login-type reply.
+/// Flags that accompany the user in every login-type reply.
 class QBAPIUserAdditionalData final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIUserAdditionalData, "UserAdditionalData")
   QB_VALUE(existUser, ExistUser)

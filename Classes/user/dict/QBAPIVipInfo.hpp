@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The subscription summary of a user. No field is required in this face.
+/// The subscription summary of a user. No field is required in this face.
 class QBAPIVipInfo final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIVipInfo, "VipInfo")
   QB_VALUE(userId, UserId)

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// check_verify_code: checks a verification code; success is the answer.
+/// check_verify_code: checks a verification code; success is the answer.
 class QBUserCheckVerifyCodeMessage final : public DictMessage<QBUserCheckVerifyCodeMessage> {
   QB_DICT_MESSAGE(QBUserCheckVerifyCodeMessage, "CheckVerifyCode", user::kCheckVerifyCode)
   static std::shared_ptr<QBUserCheckVerifyCodeMessage> initWithData(std::optional<JsonValue> email,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// delete_account: deletes the logged-in account.
+/// delete_account: deletes the logged-in account.
 class QBUserDeleteAccountMessage final : public DictMessage<QBUserDeleteAccountMessage> {
   QB_DICT_MESSAGE(QBUserDeleteAccountMessage, "DeleteAccount", user::kDeleteAccount)
   static std::shared_ptr<QBUserDeleteAccountMessage> initWithData() { return make<>(); }

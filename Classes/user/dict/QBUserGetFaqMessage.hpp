@@ -7,7 +7,7 @@ namespace qb {
 
 class QBAPIFaq;
 
-// get_faq: the account FAQ for a language and device type.
+/// get_faq: the account FAQ for a language and device type.
 class QBUserGetFaqMessage final : public DictMessage<QBUserGetFaqMessage> {
   QB_DICT_MESSAGE(QBUserGetFaqMessage, "GetFaq", user::kGetFaq)
   static std::shared_ptr<QBUserGetFaqMessage> initWithData(std::int64_t languageCode, std::int64_t deviceType) {

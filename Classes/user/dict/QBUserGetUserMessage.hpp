@@ -8,7 +8,7 @@ namespace qb {
 class QBAPIUser;
 class QBAPIUserAdditionalData;
 
-// get: the logged-in user and the flags that accompany it.
+/// get: the logged-in user and the flags that accompany it.
 class QBUserGetUserMessage final : public DictMessage<QBUserGetUserMessage> {
   QB_DICT_MESSAGE(QBUserGetUserMessage, "GetUser", user::kGetUser)
   static std::shared_ptr<QBUserGetUserMessage> initWithData() { return make<>(); }

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// get_verify_code: asks for a verification code sent to an e-mail address.
+/// get_verify_code: asks for a verification code sent to an e-mail address.
 class QBUserGetVerifyCodeMessage final : public DictMessage<QBUserGetVerifyCodeMessage> {
   QB_DICT_MESSAGE(QBUserGetVerifyCodeMessage, "GetVerifyCode", user::kGetVerifyCode)
   static std::shared_ptr<QBUserGetVerifyCodeMessage> initWithData(std::optional<JsonValue> email,

@@ -11,7 +11,7 @@ class QBAPILoginInfo;
 class QBAPIUser;
 class QBAPIUserAdditionalData;
 
-// initialise: starts a session, creating a guest account when there is none.
+/// initialise: starts a session, creating a guest account when there is none.
 class QBUserInitialiseMessage final : public DictMessage<QBUserInitialiseMessage> {
   QB_DICT_MESSAGE(QBUserInitialiseMessage, "Initialise", user::kInitialise)
   static std::shared_ptr<QBUserInitialiseMessage> initWithData(std::shared_ptr<QBAPILoginInfo> loginInfo,

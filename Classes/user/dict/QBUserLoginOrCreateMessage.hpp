@@ -10,7 +10,7 @@ class QBAPILoginInfo;
 class QBAPIUser;
 class QBAPIUserAdditionalData;
 
-// login_or_create: logs in, or creates the account first, as loginAction says.
+/// login_or_create: logs in, or creates the account first, as loginAction says.
 class QBUserLoginOrCreateMessage final : public DictMessage<QBUserLoginOrCreateMessage> {
   QB_DICT_MESSAGE(QBUserLoginOrCreateMessage, "LoginOrCreate", user::kLoginOrCreate)
   static std::shared_ptr<QBUserLoginOrCreateMessage> initWithData(std::shared_ptr<QBAPILoginInfo> loginInfo,

@@ -9,7 +9,7 @@ class QBAPIDeviceInfo;
 class QBAPIUser;
 class QBAPIUserAdditionalData;
 
-// reset_password_and_login: sets a new password with a verification code and logs in.
+/// reset_password_and_login: sets a new password with a verification code and logs in.
 class QBUserResetPasswordAndLoginMessage final : public DictMessage<QBUserResetPasswordAndLoginMessage> {
   QB_DICT_MESSAGE(QBUserResetPasswordAndLoginMessage, "ResetPasswordAndLogin", user::kResetPasswordAndLogin)
   static std::shared_ptr<QBUserResetPasswordAndLoginMessage> initWithData(std::optional<JsonValue> email,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update_additional_data: the e-mail notification flag and the price label.
+/// update_additional_data: the e-mail notification flag and the price label.
 class QBUserUpdateAdditionalDataMessage final : public DictMessage<QBUserUpdateAdditionalDataMessage> {
   QB_DICT_MESSAGE(QBUserUpdateAdditionalDataMessage, "UpdateAdditionalData", user::kUpdateAdditionalData)
   static std::shared_ptr<QBUserUpdateAdditionalDataMessage> initWithData(

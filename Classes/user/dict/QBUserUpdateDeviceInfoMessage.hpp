@@ -7,7 +7,7 @@ namespace qb {
 
 class QBAPIDeviceInfo;
 
-// update_device_info: registers the device.
+/// update_device_info: registers the device.
 class QBUserUpdateDeviceInfoMessage final : public DictMessage<QBUserUpdateDeviceInfoMessage> {
   QB_DICT_MESSAGE(QBUserUpdateDeviceInfoMessage, "UpdateDeviceInfo", user::kUpdateDeviceInfo)
   static std::shared_ptr<QBUserUpdateDeviceInfoMessage> initWithData(std::shared_ptr<QBAPIDeviceInfo> deviceInfo) {

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update: changes the nickname, the avatar image and the gender.
+/// update: changes the nickname, the avatar image and the gender.
 class QBUserUpdateMessage final : public DictMessage<QBUserUpdateMessage> {
   QB_DICT_MESSAGE(QBUserUpdateMessage, "Update", user::kUpdate)
   static std::shared_ptr<QBUserUpdateMessage> initWithData(std::optional<JsonValue> nickname,
@@ -22,7 +22,7 @@ class QBUserUpdateMessage final : public DictMessage<QBUserUpdateMessage> {
   QB_VALUE(avatarUrl, AvatarUrl)
   QB_RESULTS(QB_OPTIONAL(avatarUrl, "avatar_url"))
 
-  // The avatar, when set, as one multipart body; it never appears in the parameter map.
+  /// The avatar, when set, as one multipart body; it never appears in the parameter map.
   std::vector<QBMimeBody> mimeBodies() const override;
 };
 

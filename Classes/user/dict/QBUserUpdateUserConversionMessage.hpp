@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update_user_conversion: the install's attribution data.
+/// update_user_conversion: the install's attribution data.
 class QBUserUpdateUserConversionMessage final : public DictMessage<QBUserUpdateUserConversionMessage> {
   QB_DICT_MESSAGE(QBUserUpdateUserConversionMessage, "UpdateUserConversion", user::kUpdateUserConversion)
   static std::shared_ptr<QBUserUpdateUserConversionMessage> initWithData(

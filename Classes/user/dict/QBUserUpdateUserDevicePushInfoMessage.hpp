@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update_user_device_push_info: the push key with the time zone, language and country.
+/// update_user_device_push_info: the push key with the time zone, language and country.
 class QBUserUpdateUserDevicePushInfoMessage final : public DictMessage<QBUserUpdateUserDevicePushInfoMessage> {
   QB_DICT_MESSAGE(QBUserUpdateUserDevicePushInfoMessage, "UpdateUserDevicePushInfo", user::kUpdateUserDevicePushInfo)
   static std::shared_ptr<QBUserUpdateUserDevicePushInfoMessage> initWithData(std::optional<JsonValue> timeZone,

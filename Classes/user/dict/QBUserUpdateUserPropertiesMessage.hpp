@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update_user_properties: one text value under one text key.
+/// update_user_properties: one text value under one text key.
 class QBUserUpdateUserPropertiesMessage final : public DictMessage<QBUserUpdateUserPropertiesMessage> {
   QB_DICT_MESSAGE(QBUserUpdateUserPropertiesMessage, "UpdateUserProperties", user::kUpdateUserProperties)
   static std::shared_ptr<QBUserUpdateUserPropertiesMessage> initWithData(std::optional<JsonValue> key,

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// update_user_time_zone: the user's time zone.
+/// update_user_time_zone: the user's time zone.
 class QBUserUpdateUserTimeZoneMessage final : public DictMessage<QBUserUpdateUserTimeZoneMessage> {
   QB_DICT_MESSAGE(QBUserUpdateUserTimeZoneMessage, "UpdateUserTimeZone", user::kUpdateUserTimeZone)
   static std::shared_ptr<QBUserUpdateUserTimeZoneMessage> initWithData(std::optional<JsonValue> timeZone) {

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The state of the automatic subscription renewal. 0 is no case.
+/// The state of the automatic subscription renewal. 0 is no case.
 enum class AutoRenewStatus : std::int64_t {
   on = 1,
   off = 2,

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The user's gender.
+/// The user's gender.
 enum class Gender : std::int64_t {
   male = 0,
   female = 1,

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// What a login-or-create call is to do.
+/// What a login-or-create call is to do.
 enum class LoginAction : std::int64_t {
   loginOrCreateThenLogin = 0,
   onlyLogin = 1,

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// How an account logs in. 0, 4 and 5 are no case.
+/// How an account logs in. 0, 4 and 5 are no case.
 enum class LoginType : std::int64_t {
   guest = 1,
   phone = 2,

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The subscription tier. Unknown values decode as gold, so that a new tier never breaks a reply.
+/// The subscription tier. Unknown values decode as gold, so that a new tier never breaks a reply.
 enum class VipLevel : std::int64_t {
   none = 0,
   gold = 1,

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The advertising identifier of an Android device.
+/// The advertising identifier of an Android device.
 struct AndroidDeviceDataModel {
   std::optional<std::string> gaid = std::nullopt;
 

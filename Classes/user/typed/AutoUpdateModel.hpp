@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// Whether a newer app version exists and whether it must be installed.
+/// Whether a newer app version exists and whether it must be installed.
 struct AutoUpdateModel {
   bool hasUpdate;
   bool forceUpdate;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The client configuration returned by initialise and get_config.
+/// The client configuration returned by initialise and get_config.
 struct ClientConfigModel {
   AutoUpdateModel autoUpdate;
   std::int64_t expertDefaultCount;

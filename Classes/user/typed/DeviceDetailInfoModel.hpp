@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// Attribution identifiers and the app's locale and version.
+/// Attribution identifiers and the app's locale and version.
 struct DeviceDetailInfoModel {
   std::string appsFlyerId;
   std::optional<std::string> appsFlyerAdvertisingId = std::nullopt;

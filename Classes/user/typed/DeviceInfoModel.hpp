@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The device the app runs on.
+/// The device the app runs on.
 struct DeviceInfoModel {
   DeviceType deviceType;
   std::string deviceToken;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// One entry of the account FAQ.
+/// One entry of the account FAQ.
 struct FaqModel {
   std::string title;
   std::string content;

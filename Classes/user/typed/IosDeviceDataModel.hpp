@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// Advertising identifiers of an iOS device.
+/// Advertising identifiers of an iOS device.
 struct IosDeviceDataModel {
   std::optional<std::string> idfa = std::nullopt;
   std::optional<std::string> idfv = std::nullopt;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The current and next user agreement and the privacy documents.
+/// The current and next user agreement and the privacy documents.
 struct LegalConfigModel {
   std::optional<std::string> agreementUrl = std::nullopt;
   std::int64_t agreementVersion;

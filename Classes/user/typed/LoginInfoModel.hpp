@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The credentials the app sends to log in or create an account.
+/// The credentials the app sends to log in or create an account.
 struct LoginInfoModel {
   LoginType loginType;
   std::string loginKey;

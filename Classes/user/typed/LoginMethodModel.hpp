@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// One way in which an account can log in.
+/// One way in which an account can log in.
 struct LoginMethodModel {
   LoginType type;
   std::string loginName;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// Profile data an outside account provider supplies with a sign-in.
+/// Profile data an outside account provider supplies with a sign-in.
 struct ThirdPartyUserInfoModel {
   std::optional<std::string> nickname = std::nullopt;
   std::optional<std::string> avatarUrl = std::nullopt;

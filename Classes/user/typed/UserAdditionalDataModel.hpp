@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// Flags that accompany the user in every login-type reply.
+/// Flags that accompany the user in every login-type reply.
 struct UserAdditionalDataModel {
   bool existUser;
   bool todayUser;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// apple_callback: trades a sign-in authorisation code for the Apple user identifier.
+/// apple_callback: trades a sign-in authorisation code for the Apple user identifier.
 struct UserAppleLoginCallBackRequest {
   std::string code;
 

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of apple_callback.
+/// The reply of apple_callback.
 struct UserAppleLoginCallBackResponse {
   std::string appleUserId;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// check_verify_code: checks a verification code; success is the answer.
+/// check_verify_code: checks a verification code; success is the answer.
 struct UserCheckVerifyCodeRequest {
   std::string email;
   std::string verifyCode;

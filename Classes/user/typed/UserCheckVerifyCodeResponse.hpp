@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of check_verify_code; it carries nothing but success.
+/// The reply of check_verify_code; it carries nothing but success.
 struct UserCheckVerifyCodeResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(UserCheckVerifyCodeResponse)

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// delete_account: deletes the logged-in account.
+/// delete_account: deletes the logged-in account.
 struct UserDeleteAccountRequest {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_REQUEST(user::kDeleteAccount, UserDeleteAccountResponse)

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of delete_account; it carries nothing but success.
+/// The reply of delete_account; it carries nothing but success.
 struct UserDeleteAccountResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(UserDeleteAccountResponse)

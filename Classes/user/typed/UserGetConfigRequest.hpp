@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_config: the client configuration for a language and country.
+/// get_config: the client configuration for a language and country.
 struct UserGetConfigRequest {
   LanguageCode languageCode;
   std::string countryCode;

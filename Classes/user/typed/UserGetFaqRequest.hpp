@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_faq: the account FAQ for a language and device type.
+/// get_faq: the account FAQ for a language and device type.
 struct UserGetFaqRequest {
   LanguageCode languageCode;
   DeviceType deviceType;

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of get_faq.
+/// The reply of get_faq.
 struct UserGetFaqResponse {
   std::vector<FaqModel> faqs;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get: the logged-in user and the flags that accompany it.
+/// get: the logged-in user and the flags that accompany it.
 struct UserGetUserRequest {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_REQUEST(user::kGetUser, UserGetUserResponse)

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The reply of get.
+/// The reply of get.
 struct UserGetUserResponse {
   UserModel user;
   UserAdditionalDataModel userAdditionalData;

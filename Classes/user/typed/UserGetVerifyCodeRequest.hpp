@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// get_verify_code: asks for a verification code sent to an e-mail address.
+/// get_verify_code: asks for a verification code sent to an e-mail address.
 struct UserGetVerifyCodeRequest {
   std::string email;
   LanguageCode languageCode;

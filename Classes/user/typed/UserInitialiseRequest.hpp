@@ -8,7 +8,7 @@
 
 namespace qb {
 
-// initialise: starts a session, creating a guest account when there is none.
+/// initialise: starts a session, creating a guest account when there is none.
 struct UserInitialiseRequest {
   std::optional<LoginInfoModel> loginInfo = std::nullopt;
   std::optional<DeviceInfoModel> deviceInfo = std::nullopt;

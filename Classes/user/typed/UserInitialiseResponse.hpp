@@ -9,7 +9,7 @@
 
 namespace qb {
 
-// The reply of initialise.
+/// The reply of initialise.
 struct UserInitialiseResponse {
   UserModel user;
   UserAdditionalDataModel userAdditionalData;

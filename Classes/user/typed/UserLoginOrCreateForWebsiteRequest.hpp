@@ -9,7 +9,7 @@
 
 namespace qb {
 
-// login_or_create_for_website: login_or_create for the website.
+/// login_or_create_for_website: login_or_create for the website.
 struct UserLoginOrCreateForWebsiteRequest {
   LoginInfoModel loginInfo;
   DeviceInfoModel deviceInfo;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The reply of login_or_create_for_website.
+/// The reply of login_or_create_for_website.
 struct UserLoginOrCreateForWebsiteResponse {
   UserModel user;
   UserAdditionalDataModel userAdditionalData;

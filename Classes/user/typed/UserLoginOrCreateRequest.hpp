@@ -9,7 +9,7 @@
 
 namespace qb {
 
-// login_or_create: logs in, or creates the account first, as loginAction says.
+/// login_or_create: logs in, or creates the account first, as loginAction says.
 struct UserLoginOrCreateRequest {
   LoginInfoModel loginInfo;
   DeviceInfoModel deviceInfo;

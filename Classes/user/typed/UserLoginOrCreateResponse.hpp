@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The reply of login_or_create.
+/// The reply of login_or_create.
 struct UserLoginOrCreateResponse {
   UserModel user;
   UserAdditionalDataModel userAdditionalData;

@@ -8,7 +8,7 @@
 
 namespace qb {
 
-// The account: identity, profile, subscription flags and free-form properties.
+/// The account: identity, profile, subscription flags and free-form properties.
 struct UserModel {
   std::int64_t userId;
   std::string uuid;

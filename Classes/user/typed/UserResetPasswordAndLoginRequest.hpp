@@ -7,7 +7,7 @@
 
 namespace qb {
 
-// reset_password_and_login: sets a new password with a verification code and logs in.
+/// reset_password_and_login: sets a new password with a verification code and logs in.
 struct UserResetPasswordAndLoginRequest {
   std::string email;
   std::string verifyCode;

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// The reply of reset_password_and_login.
+/// The reply of reset_password_and_login.
 struct UserResetPasswordAndLoginResponse {
   UserModel user;
   UserAdditionalDataModel userAdditionalData;

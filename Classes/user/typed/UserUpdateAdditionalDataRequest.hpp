@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// update_additional_data: the e-mail notification flag and the price label.
+/// update_additional_data: the e-mail notification flag and the price label.
 struct UserUpdateAdditionalDataRequest {
   std::optional<bool> emailNotificationEnabled = std::nullopt;
   std::optional<std::string> growsPriceLabel = std::nullopt;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_additional_data; it carries nothing but success.
+/// The reply of update_additional_data; it carries nothing but success.
 struct UserUpdateAdditionalDataResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(UserUpdateAdditionalDataResponse)

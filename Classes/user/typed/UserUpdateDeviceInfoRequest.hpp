@@ -7,7 +7,7 @@
 
 namespace qb {
 
-// update_device_info: registers the device.
+/// update_device_info: registers the device.
 struct UserUpdateDeviceInfoRequest {
   DeviceInfoModel deviceInfo;
 

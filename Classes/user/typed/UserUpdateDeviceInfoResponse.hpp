@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_device_info; it carries nothing but success.
+/// The reply of update_device_info; it carries nothing but success.
 struct UserUpdateDeviceInfoResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(UserUpdateDeviceInfoResponse)

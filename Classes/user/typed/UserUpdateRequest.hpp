@@ -7,7 +7,7 @@
 
 namespace qb {
 
-// update: changes the nickname, the avatar image and the gender. The avatar travels as a multipart body.
+/// update: changes the nickname, the avatar image and the gender. The avatar travels as a multipart body.
 struct UserUpdateRequest {
   std::optional<std::string> nickname = std::nullopt;
   std::optional<Gender> gender = std::nullopt;

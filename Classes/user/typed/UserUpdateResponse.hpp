@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update.
+/// The reply of update.
 struct UserUpdateResponse {
   std::optional<std::string> avatarUrl = std::nullopt;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// update_user_conversion: the install's attribution data.
+/// update_user_conversion: the install's attribution data.
 struct UserUpdateUserConversionRequest {
   bool isOrganic;
   std::optional<std::string> mediaSource = std::nullopt;

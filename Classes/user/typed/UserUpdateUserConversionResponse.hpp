@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_user_conversion; it carries nothing but success.
+/// The reply of update_user_conversion; it carries nothing but success.
 struct UserUpdateUserConversionResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(UserUpdateUserConversionResponse)

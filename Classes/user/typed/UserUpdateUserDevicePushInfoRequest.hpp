@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// update_user_device_push_info: the push key with the time zone, language and country.
+/// update_user_device_push_info: the push key with the time zone, language and country.
 struct UserUpdateUserDevicePushInfoRequest {
   std::optional<std::string> timeZone = std::nullopt;
   std::optional<std::string> pushKey = std::nullopt;

@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_user_device_push_info; it carries nothing but success.
+/// The reply of update_user_device_push_info; it carries nothing but success.
 struct UserUpdateUserDevicePushInfoResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(UserUpdateUserDevicePushInfoResponse)

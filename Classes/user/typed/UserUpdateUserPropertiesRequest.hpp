@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// update_user_properties: one text value under one text key.
+/// update_user_properties: one text value under one text key.
 struct UserUpdateUserPropertiesRequest {
   std::string key;
   std::string value;

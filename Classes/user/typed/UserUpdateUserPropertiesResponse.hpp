@@ -4,7 +4,7 @@
 
 namespace qb {
 
-// The reply of update_user_properties; it carries nothing but success.
+/// The reply of update_user_properties; it carries nothing but success.
 struct UserUpdateUserPropertiesResponse {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_RESPONSE(UserUpdateUserPropertiesResponse)

@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The subscription summary of a user.
+/// The subscription summary of a user.
 struct VipInfoModel {
   std::int64_t userId;
   bool isVip;

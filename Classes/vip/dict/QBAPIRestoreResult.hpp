@@ -6,8 +6,8 @@ namespace qb {
 
 class QBAPIVipInfo;
 
-// The subscription summary a purchase restoration returns, with an opaque login secret handed to the app
-// as it came. The app builds it from a reply it obtained itself; no endpoint of the library returns it.
+/// The subscription summary a purchase restoration returns, with an opaque login secret handed to the app
+/// as it came. The app builds it from a reply it obtained itself; no endpoint of the library returns it.
 class QBAPIRestoreResult final : public QBAPIModel {
   QB_DICT_MODEL(QBAPIRestoreResult, "RestoreResult")
   QB_MODEL(QBAPIVipInfo, vipInfo, VipInfo)

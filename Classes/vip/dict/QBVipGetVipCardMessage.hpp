@@ -7,8 +7,8 @@ namespace qb {
 
 class QBAPIVipInfo;
 
-// vip_card: the signed-in user's subscription summary. Sends nothing; a reply without one leaves the
-// summary read before.
+/// vip_card: the signed-in user's subscription summary. Sends nothing; a reply without one leaves the
+/// summary read before.
 class QBVipGetVipCardMessage final : public DictMessage<QBVipGetVipCardMessage> {
   QB_DICT_MESSAGE(QBVipGetVipCardMessage, "GetVipCard", vip::kVipCard)
   static std::shared_ptr<QBVipGetVipCardMessage> initWithData() { return make<>(); }

@@ -5,8 +5,8 @@
 
 namespace qb {
 
-// The subscription summary a purchase restoration returns, with an opaque login secret (decoded by the
-// app from its own reply).
+/// The subscription summary a purchase restoration returns, with an opaque login secret (decoded by the
+/// app from its own reply).
 struct RestoreResultModel {
   VipInfoModel vipInfo;
   std::optional<std::string> loginSecret = std::nullopt;

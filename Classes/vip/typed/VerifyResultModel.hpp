@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The subscription summary a purchase verification returns (decoded by the app from its own reply).
+/// The subscription summary a purchase verification returns (decoded by the app from its own reply).
 struct VerifyResultModel {
   VipInfoModel vipInfo;
 

@@ -6,7 +6,7 @@
 
 namespace qb {
 
-// vip_card: the signed-in user's subscription summary.
+/// vip_card: the signed-in user's subscription summary.
 struct VipGetVipCardRequest {
   static constexpr auto codingKeys = qb::codingKeys();
   QB_TYPED_REQUEST(vip::kVipCard, VipGetVipCardResponse)

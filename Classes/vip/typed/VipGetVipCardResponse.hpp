@@ -5,7 +5,7 @@
 
 namespace qb {
 
-// The reply of vip_card.
+/// The reply of vip_card.
 struct VipGetVipCardResponse {
   VipInfoModel vipInfo;
 

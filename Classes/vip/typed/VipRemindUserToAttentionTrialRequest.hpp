@@ -6,8 +6,8 @@
 
 namespace qb {
 
-// remind_user_to_attention_trial: asks the service to e-mail the user `daysToRemind` days before the
-// trial period ends. The number is passed through unchecked.
+/// remind_user_to_attention_trial: asks the service to e-mail the user `daysToRemind` days before the
+/// trial period ends. The number is passed through unchecked.
 struct VipRemindUserToAttentionTrialRequest {
   std::optional<LanguageCode> languageCode = std::nullopt;
   std::int64_t daysToRemind;
