@@ -107,7 +107,7 @@ struct ConcatImpl<TypeList<A...>, TypeList<B...>, Rest...> : ConcatImpl<TypeList
 template <class... Lists>
 using Concat = typename ConcatImpl<Lists...>::type;
 
-/// Calls f.template operator()<T>() for each T of the list, in order.
+/// Calls `f.template operator()<T>()` for each T of the list, in order.
 template <class... T, class F>
 constexpr void forEachType(TypeList<T...>, F&& f) {
   (f.template operator()<T>(), ...);
@@ -171,7 +171,7 @@ constexpr bool repeatsPath(TypeList<All...>) {
 #define QB_CATALOGUE_NAMES_DICT_(constant, path, verb, auth, Message) ::qb::EndpointNames{&constant, #Message, {}},
 #define QB_CATALOGUE_NAMES_TYPED_(constant, path, verb, auth, Request) ::qb::EndpointNames{&constant, {}, #Request},
 
-/// Declares, in namespace qb::<domain>: the endpoint constants (kGetConfig, ...), `Endpoints` (a TypeList
+/// Declares, in namespace `qb::<domain>`: the endpoint constants (kGetConfig, ...), `Endpoints` (a TypeList
 /// of qb::Api) and `Records` (a TypeList of qb::Record), and `kClassNames`, the name of every class of
 /// the catalogue (messages, requests, records), for checks against the source tree, and `kEndpointNames`,
 /// each line's endpoint with the names of its face classes, for listings.

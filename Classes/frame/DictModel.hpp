@@ -116,7 +116,9 @@ class DictMessage : public QBMessageBase {
 
  protected:
   /// A new message with the given values stored in the given properties, in order:
-  ///   return make<&Self::languageCode_, &Self::countryCode_>(languageCode, std::move(countryCode));
+  /// \code
+  /// return make<&Self::languageCode_, &Self::countryCode_>(languageCode, std::move(countryCode));
+  /// \endcode
   template <auto... Members, class... Args>
   static std::shared_ptr<Derived> make(Args&&... values) {
     static_assert(sizeof...(Members) == sizeof...(Args));

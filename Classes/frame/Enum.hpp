@@ -18,10 +18,10 @@ struct EnumCase {
 };
 
 /// Specialised once per enumeration (see QB_ENUM below) with:
-///   name        the enumeration's name, used in decoding errors;
-///   cases       every case in declaration order;
-///   fallback    the case an unknown raw value decodes as, or std::nullopt when it is an error;
-///   hasCaseList whether allCases<E>() is offered.
+/// - `name`: the enumeration's name, used in decoding errors;
+/// - `cases`: every case in declaration order;
+/// - `fallback`: the case an unknown raw value decodes as, or std::nullopt when it is an error;
+/// - `hasCaseList`: whether `allCases<E>()` is offered.
 template <class E>
 struct EnumTraits;
 
@@ -89,8 +89,7 @@ constexpr std::string_view unqualified(std::string_view name) noexcept {
 
 #define QB_ENUM_CASE_(Enum, c) ::qb::EnumCase<Enum>{Enum::c, #c}
 
-// Declares the traits of an enumeration whose unknown raw values fail decoding.
-// Usage: QB_ENUM(Gender, QB_CASE(Gender, male), QB_CASE(Gender, female))
+/// One case of an enumeration, for QB_ENUM and QB_ENUM_WITH_FALLBACK.
 #define QB_CASE(Enum, c) QB_ENUM_CASE_(Enum, c)
 #define QB_ENUM_TRAITS_(Enum, fallbackValue, withCaseList, ...)                                     \
   template <>                                                                                      \
@@ -100,6 +99,8 @@ constexpr std::string_view unqualified(std::string_view name) noexcept {
     static constexpr std::optional<Enum> fallback = fallbackValue;                                 \
     static constexpr bool hasCaseList = withCaseList;                                              \
   }
+/// Declares the traits of an enumeration whose unknown raw values fail decoding.
+/// Usage: `QB_ENUM(Gender, QB_CASE(Gender, male), QB_CASE(Gender, female))`
 #define QB_ENUM(Enum, ...) QB_ENUM_TRAITS_(Enum, std::nullopt, false, __VA_ARGS__)
 
 /// Declares the traits of an enumeration with a case list, whose unknown raw values decode as `fallbackCase`.
