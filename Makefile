@@ -8,7 +8,7 @@ DEBIAN_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev ccache pkg-con
   libboost-json1.81-dev libsimdjson-dev libgtest-dev libgmock-dev libbenchmark-dev \
   libcurl4-openssl-dev libcpp-httplib-dev libcli11-dev nlohmann-json3-dev rapidjson-dev
 
-.PHONY: deps build test demo clang asan tsan bench fuzz format clean
+.PHONY: deps build test demo package clang asan tsan bench fuzz format clean
 
 # Installs only the Debian packages that are missing; quick and silent when all are there.
 deps:
@@ -32,6 +32,10 @@ test: build
 
 demo: build
 	$(DEMO_CMD)
+
+# The Debian package of the default build: build/default/libqbcomponentapi-dev_<version>_<arch>.deb.
+package: build
+	cd build/default && cpack -G DEB
 
 clang: deps
 	cmake --preset clang
