@@ -9,6 +9,7 @@
 //
 //   qb_doc_keys OUTPUT.dox
 #include <QBComponentAPI/QBComponentAPI.hpp>
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
@@ -17,6 +18,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -134,19 +136,22 @@ struct ClassSection {
   std::string body;
 };
 
-void addToClassPage(std::vector<ClassSection>& sections, const std::string& className, bool isStruct,
-                    const std::string& heading, const Table& table) {
-  if (className.empty()) return;
+// Adds the table, under its heading, to the pages of both of its classes.
+void addToClassPages(std::vector<ClassSection>& sections, const std::string& heading, const Table& table) {
   std::ostringstream body;
   body << "<h2>" << heading << "</h2>\n";
   writeTable(body, table);
-  for (ClassSection& section : sections) {
-    if (section.className == className) {
-      section.body += body.str();
-      return;
+  for (const auto& [face, isStruct] : {std::pair{&table.dictionaryClass, false}, std::pair{&table.typedClass, true}}) {
+    const std::string& className = *face;
+    if (className.empty()) continue;
+    const auto known = std::find_if(sections.begin(), sections.end(),
+                                    [&](const ClassSection& section) { return section.className == className; });
+    if (known != sections.end()) {
+      known->body += body.str();
+    } else {
+      sections.push_back({className, isStruct, body.str()});
     }
   }
-  sections.push_back({className, isStruct, body.str()});
 }
 
 void writePages(std::ostream& out) {
@@ -172,8 +177,7 @@ void writePages(std::ostream& out) {
     title += table.typedClass;
     out << "\\section record_" << label(first) << " " << title << "\n";
     writeTable(out, table);
-    addToClassPage(classes, table.dictionaryClass, false, "JSON keys", table);
-    addToClassPage(classes, table.typedClass, true, "JSON keys", table);
+    addToClassPages(classes, "JSON keys", table);
     ++records;
   });
   out << "Records listed: " << records << ".\n*/\n\n";
@@ -201,10 +205,8 @@ void writePages(std::ostream& out) {
     writeTable(out, params);
     out << "<b>Reply keys</b>\n";
     writeTable(out, results);
-    addToClassPage(classes, params.dictionaryClass, false, "Parameter keys", params);
-    addToClassPage(classes, params.typedClass, true, "Parameter keys", params);
-    addToClassPage(classes, results.dictionaryClass, false, "Reply keys", results);
-    addToClassPage(classes, results.typedClass, true, "Reply keys", results);
+    addToClassPages(classes, "Parameter keys", params);
+    addToClassPages(classes, "Reply keys", results);
   });
   out << "*/\n";
 
