@@ -8,12 +8,15 @@ DEBIAN_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev ccache pkg-con
   libboost-json1.81-dev libsimdjson-dev libgtest-dev libgmock-dev libbenchmark-dev \
   libcurl4-openssl-dev libcpp-httplib-dev libcli11-dev nlohmann-json3-dev rapidjson-dev
 
-.PHONY: deps build test demo package clang asan tsan bench fuzz format clean
+# The API reference's tools, installed by `make docs` only: the browser is large and nothing else needs it.
+DOCS_PACKAGES := doxygen chromium
 
-# Installs only the Debian packages that are missing; quick and silent when all are there.
-deps:
+.PHONY: deps build test demo package clang asan tsan bench fuzz docs format clean
+
+# Installs only those of the given Debian packages that are missing; quick and silent when all are there.
+define install_missing
 	@missing=""; \
-	for p in $(DEBIAN_PACKAGES); do \
+	for p in $(1); do \
 	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q "install ok installed" || missing="$$missing $$p"; \
 	done; \
 	if [ -n "$$missing" ]; then \
@@ -22,6 +25,10 @@ deps:
 	  $$sudo env DEBIAN_FRONTEND=noninteractive apt-get update -qq && \
 	  $$sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $$missing; \
 	fi
+endef
+
+deps:
+	$(call install_missing,$(DEBIAN_PACKAGES))
 
 build: deps
 	cmake --preset default
@@ -72,6 +79,14 @@ fuzz: deps
 	cmake --preset fuzz
 	cmake --build --preset fuzz -j $(JOBS)
 	fuzz/run.sh build/fuzz $(FUZZ_SECONDS)
+
+# The API reference in build/default/docs/html, built without a single Doxygen warning, then its checks
+# (the pages as a headless browser renders them, every record on the records page).
+docs: deps
+	$(call install_missing,$(DOCS_PACKAGES))
+	cmake --preset default
+	cmake --build --preset default --target docs -j $(JOBS)
+	ctest --preset docs
 
 format:
 	find Classes host mock cli tests bench fuzz examples -name '*.[ch]pp' 2>/dev/null | xargs -r clang-format -i
