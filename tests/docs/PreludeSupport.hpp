@@ -52,6 +52,13 @@ struct RecordingClient {
   host::Client client{serviceOptions(), transport};
 };
 
+// The body of the service's reply to a Typed-face request sent through `service`.
+template <class Request>
+std::string replyTo(RecordingClient& service, const Request& request) {
+  service.client.send(request);
+  return service.transport->lastBody();
+}
+
 // Fails the block when what its fragment was to do did not happen.
 inline void expect(bool condition, const char* what) {
   if (!condition) throw std::runtime_error(std::string("the fragment did not work: ") + what);

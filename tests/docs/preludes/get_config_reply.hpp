@@ -8,13 +8,11 @@
 
 namespace {
 struct Prelude {
-  std::string replyBytes;
-
-  Prelude() {
+  std::string replyBytes = [] {
     qb::docs::RecordingClient service;
     qb::docs::signIn(service.client);
-    service.client.send(qb::UserGetConfigRequest{.languageCode = qb::LanguageCode::en, .countryCode = "US"});
-    replyBytes = service.transport->lastBody();
-  }
+    return qb::docs::replyTo(service,
+                             qb::UserGetConfigRequest{.languageCode = qb::LanguageCode::en, .countryCode = "US"});
+  }();
 };
 }  // namespace

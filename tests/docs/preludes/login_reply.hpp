@@ -1,5 +1,5 @@
 // replyBytes: the mock service's reply to a login_or_create that logs fern@example.com in (the account is
-// created first, so that onlyLogin finds it).
+// created first, so that onlyLogin finds it). The Dictionary-face classes the fragment builds are included.
 #pragma once
 
 #include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
@@ -12,9 +12,7 @@
 
 namespace {
 struct Prelude {
-  std::string replyBytes;
-
-  Prelude() {
+  std::string replyBytes = [] {
     qb::docs::RecordingClient service;
     qb::UserLoginOrCreateRequest login{
         .loginInfo = {.loginType = qb::LoginType::email, .loginKey = "fern@example.com", .loginPassword = "secret"},
@@ -22,8 +20,7 @@ struct Prelude {
         .loginAction = qb::LoginAction::createThenLogin};
     service.client.send(login);
     login.loginAction = qb::LoginAction::onlyLogin;
-    service.client.send(login);
-    replyBytes = service.transport->lastBody();
-  }
+    return qb::docs::replyTo(service, login);
+  }();
 };
 }  // namespace
