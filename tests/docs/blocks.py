@@ -2,7 +2,9 @@
 """The code blocks of README.md and docs/*.md, as ctest checks them.
 
 Every fenced ```cpp block is one of:
-  a program   it contains `int main(`; compiled as it stands,
+  a program   it contains `int main(`; compiled as it stands but for its leading preprocessor lines, the
+              rest inside a namespace of its own so that every block can share one executable (so main
+              must end in a return; falling off it fails the build),
   a fragment  the line before its fence is `<!-- snippet: NAME -->`; its leading preprocessor lines go to
               file scope and the rest becomes the body of a member function of a class deriving from the
               `Prelude` of tests/docs/preludes/NAME.hpp, run after the prelude's constructor,
@@ -57,7 +59,7 @@ class Block:
     annotation: str  # the line before the fence
     lines: list = field(default_factory=list)
     name: str = ""
-    kind: str = ""  # program, fragment, excerpt, cmake; empty for a block that is not checked
+    kind: str = ""  # program, fragment, excerpt, cmake, unknown (refused); empty when not checked
     target: str = ""  # the prelude of a fragment, the excerpted file of an excerpt
 
     def where(self):
