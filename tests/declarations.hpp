@@ -1,0 +1,90 @@
+// Readers of the two faces' declarations, for tests that compare the faces with each other or with the
+// documentation: the keys a Dictionary-face table or a Typed-face record declares, and which of them each
+// face insists on.
+#pragma once
+
+#include <cxxabi.h>
+
+#include <QBComponentAPI/frame/Codable.hpp>
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <typeinfo>
+#include <vector>
+
+namespace qb::test {
+
+// The keys of a Dictionary-face table (&Class::qbFields, &Class::qbParams or &Class::qbResults), in order.
+template <auto TableFn>
+std::vector<std::string> dictionaryKeys() {
+  std::vector<std::string> keys;
+  std::apply([&](const auto&... field) { (keys.emplace_back(field.key), ...); }, TableFn());
+  return keys;
+}
+
+// The keys of a Dictionary-face table declared QB_REQUIRED: a model raises ParameterCheckFailException
+// when a reply lacks one, and getParams when the app left one out.
+template <auto TableFn>
+std::vector<std::string> dictionaryRequiredKeys() {
+  std::vector<std::string> keys;
+  std::apply([&](const auto&... field) { ((field.required ? (void)keys.emplace_back(field.key) : (void)0), ...); },
+             TableFn());
+  return keys;
+}
+
+// The parameters a message's getParams always puts in its map: the required ones and every integer
+// (which is 0 when the app set nothing).
+template <auto TableFn>
+std::vector<std::string> dictionaryAlwaysSentKeys() {
+  std::vector<std::string> keys;
+  std::apply([&](const auto&... field) { ((field.alwaysSent() ? (void)keys.emplace_back(field.key) : (void)0), ...); },
+             TableFn());
+  return keys;
+}
+
+// A record's or request's coding keys; file members travel as multipart bodies, not under a key.
+template <class T>
+std::vector<std::string> typedKeys() {
+  std::vector<std::string> keys;
+  std::apply(
+      [&](const auto&... key) {
+        (
+            [&]<class K>(const K& k) {
+              if (!K::isFile) keys.emplace_back(k.name);
+            }(key),
+            ...);
+      },
+      T::codingKeys);
+  return keys;
+}
+
+// The coding keys of members that are not std::optional: always encoded, and a decoding error
+// (keyNotFound) when a reply lacks one.
+template <class T>
+std::vector<std::string> typedRequiredKeys() {
+  std::vector<std::string> keys;
+  std::apply(
+      [&](const auto&... key) {
+        (
+            [&]<class K>(const K& k) {
+              if (!K::isFile && !IsOptional<typename K::Member>::value) keys.emplace_back(k.name);
+            }(key),
+            ...);
+      },
+      T::codingKeys);
+  return keys;
+}
+
+// A class's name as its declaration spells it, without the namespace: "QBAPIVipInfo", "VipInfoModel".
+template <class T>
+std::string className() {
+  int status = 0;
+  const std::unique_ptr<char, void (*)(void*)> name(abi::__cxa_demangle(typeid(T).name(), nullptr, nullptr, &status),
+                                                    std::free);
+  std::string text = status == 0 && name ? name.get() : typeid(T).name();
+  const auto colons = text.rfind("::");
+  return colons == std::string::npos ? text : text.substr(colons + 2);
+}
+
+}  // namespace qb::test
