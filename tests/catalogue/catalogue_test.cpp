@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "declarations.hpp"
+
 namespace qb {
 namespace {
 
@@ -93,28 +95,8 @@ TEST(Catalogue, APathRepeatsOnlyForAFurtherDictionaryMessage) {
 
 // --- The two faces' keys ------------------------------------------------------------------------------
 
-template <auto TableFn>
-std::vector<std::string> dictionaryKeys() {
-  std::vector<std::string> keys;
-  std::apply([&](const auto&... field) { (keys.emplace_back(field.key), ...); }, TableFn());
-  return keys;
-}
-
-// A record's or request's coding keys; file members travel as multipart bodies, not under a key.
-template <class T>
-std::vector<std::string> typedKeys() {
-  std::vector<std::string> keys;
-  std::apply(
-      [&](const auto&... key) {
-        (
-            [&]<class K>(const K& k) {
-              if (!K::isFile) keys.emplace_back(k.name);
-            }(key),
-            ...);
-      },
-      T::codingKeys);
-  return keys;
-}
+using test::dictionaryKeys;
+using test::typedKeys;
 
 // The differences between the faces that are part of the design: where, and which keys one face has
 // that the other lacks. Anything else is drift between the faces.
