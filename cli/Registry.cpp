@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
-#include <QBComponentAPI/frame/detail/DictEngine.hpp>
+#include "cli/Declarations.hpp"
 
 namespace qb::cli {
 
@@ -19,8 +18,8 @@ std::string shown(const JsonValue& value) {
 }
 
 bool isInteger(const JsonValue& value) {
-  return value.is_int64() ||
-         (value.is_uint64() && value.get_uint64() <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()));
+  return value.is_int64() || (value.is_uint64() && value.get_uint64() <= static_cast<std::uint64_t>(
+                                                                             std::numeric_limits<std::int64_t>::max()));
 }
 
 [[noreturn]] void throwUnknown(std::string_view key, const Endpoint& endpoint, std::string_view face) {
@@ -35,10 +34,6 @@ bool isInteger(const JsonValue& value) {
 [[noreturn]] void throwFileAsValue(std::string_view key) {
   throw ParameterError(std::string(key), "a file parameter: give it as " + std::string(key) + "=@path");
 }
-
-// The Dictionary face carries its upload outside the parameter table, as the avatar property.
-template <class Message>
-constexpr bool takesAvatar = requires(Message& m) { m.setAvatar(std::vector<std::byte>{}); };
 
 // Every key must be one of the message's parameters, integers must be integers (the face would read any
 // other value as some integer, "english" as 0), files go only to the file parameter, and every required
@@ -59,15 +54,16 @@ void checkDictionary(const Arguments& args) {
       }
     });
     if (known) continue;
-    if (takesAvatar<Message> && key == "avatar") throwFileAsValue(key);
+    if (decl::takesAvatar<Message> && key == "avatar") throwFileAsValue(key);
     throwUnknown(key, A::endpoint, "Dictionary");
   }
   for (const auto& given : args.files) {
-    if (!(takesAvatar<Message> && given.first == "avatar")) throwNotAFile(given.first);
+    if (!(decl::takesAvatar<Message> && given.first == "avatar")) throwNotAFile(given.first);
   }
   detail::forEachField(Message::qbParams(), [&](const auto& field) {
     const auto* value = args.values.if_contains(field.key);
-    if (field.required && (!value || value->is_null())) throw ParameterError(std::string(field.key), "required, but not given");
+    if (field.required && (!value || value->is_null()))
+      throw ParameterError(std::string(field.key), "required, but not given");
   });
 }
 
@@ -78,7 +74,7 @@ JsonValue sendDictionary(host::Client& client, const Arguments& args) {
   checkDictionary<A>(args);
   auto message = std::make_shared<Message>();
   detail::readFields<&Message::qbParams>(*message, args.values);
-  if constexpr (takesAvatar<Message>) {
+  if constexpr (decl::takesAvatar<Message>) {
     if (const auto file = args.files.find("avatar"); file != args.files.end()) message->setAvatar(file->second);
   }
   client.send(*message);
@@ -153,88 +149,12 @@ JsonValue sendTyped(host::Client& client, const Arguments& args) {
   return JsonValueEncoder().encode(client.send(typedRequest<A>(args)));
 }
 
-// The name of a Dictionary-face property type in a description.
-template <class T>
-std::string dictionaryType() {
-  using Kind = detail::DictKind<T>;
-  if constexpr (Kind::integer) return "integer";
-  else if constexpr (Kind::model) return "record";
-  else if constexpr (Kind::modelList || Kind::list) return "list";
-  else if constexpr (Kind::map) return "map";
-  else if constexpr (Kind::data) return "file";
-  else return "text";
-}
-
-// The name of a Typed-face member type in a description.
-template <class M>
-std::string typedType() {
-  if constexpr (IsOptional<M>::value) return typedType<typename M::value_type>();
-  else if constexpr (std::is_same_v<M, APIFile>) return "file";
-  else if constexpr (std::is_same_v<M, std::string>) return "text";
-  else if constexpr (std::is_same_v<M, bool>) return "boolean";
-  else if constexpr (std::is_same_v<M, Date>) return "date";
-  else if constexpr (std::is_enum_v<M> || std::is_integral_v<M>) return "integer";
-  else if constexpr (std::is_floating_point_v<M>) return "number";
-  else if constexpr (Codable<M>) return "record";
-  else if constexpr (IsVector<M>::value) return "list";
-  else if constexpr (IsStringMap<M>::value) return "map";
-  else return "value";
-}
-
-template <class A>
-Description describe() {
-  using Message = typename A::DictionaryMessage;
-  using Request = typename A::TypedRequest;
-  Description d;
-  auto parameter = [&](std::string_view key) -> ParameterInfo& {
-    const auto found = std::find_if(d.parameters.begin(), d.parameters.end(),
-                                    [&](const ParameterInfo& p) { return p.key == key; });
-    if (found != d.parameters.end()) return *found;
-    ParameterInfo& added = d.parameters.emplace_back();
-    added.key = std::string(key);
-    return added;
-  };
-  if constexpr (hasFace<Message>) {
-    detail::forEachField(Message::qbParams(), [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
-      ParameterInfo& p = parameter(field.key);
-      p.type = dictionaryType<T>();
-      p.dictionary = field.required ? Need::required : field.alwaysSent() ? Need::alwaysSent : Need::optional;
-    });
-    if constexpr (takesAvatar<Message>) {
-      ParameterInfo& p = parameter("avatar");
-      p.type = "file";
-      p.dictionary = Need::optional;
-    }
-    detail::forEachField(Message::qbResults(),
-                         [&](const auto& field) { d.dictionaryReplyKeys.emplace_back(field.key); });
-  }
-  if constexpr (hasFace<Request>) {
-    std::apply(
-        [&](const auto&... k) {
-          (
-              [&](const auto& key) {
-                using M = typename std::remove_cvref_t<decltype(key)>::Member;
-                ParameterInfo& p = parameter(key.name);
-                // The Typed declaration is the more precise one: an enumeration rather than any value.
-                p.type = typedType<M>();
-                p.typed = IsOptional<M>::value ? Need::optional : Need::required;
-              }(k),
-              ...);
-        },
-        Request::codingKeys);
-    using Response = typename Request::Response;
-    if constexpr (Codable<Response>) {
-      std::apply([&](const auto&... k) { (d.typedReplyKeys.emplace_back(k.name), ...); }, Response::codingKeys);
-    }
-  }
-  return d;
-}
-
 template <class A>
 Entry entry() {
   using Message = typename A::DictionaryMessage;
   using Request = typename A::TypedRequest;
-  Entry e{&A::endpoint, std::string(A::endpoint.path.substr(3)), nullptr, nullptr, nullptr, nullptr, &describe<A>};
+  Entry e{&A::endpoint,      std::string(A::endpoint.path.substr(3)), nullptr, nullptr, nullptr, nullptr,
+          &decl::describe<A>};
   if constexpr (hasFace<Message>) {
     e.dictionary = &sendDictionary<A>;
     e.checkDictionary = &checkDictionary<A>;
@@ -273,13 +193,13 @@ const Entry* findEntry(std::string_view name) {
 }
 
 std::string endpointTable() {
-  std::string table =
-      "| Endpoint | Verb | Session | Dictionary face | Typed face |\n|---|---|---|---|---|\n";
+  std::string table = "| Endpoint | Verb | Session | Dictionary face | Typed face |\n|---|---|---|---|---|\n";
   std::vector<EndpointNames> rows;
   for (const auto& domain : kCatalogueEndpointNames) {
     for (const EndpointNames& line : domain) {
-      const auto same = std::find_if(rows.begin(), rows.end(),
-                                     [&](const EndpointNames& row) { return row.endpoint->path == line.endpoint->path; });
+      const auto same = std::find_if(rows.begin(), rows.end(), [&](const EndpointNames& row) {
+        return row.endpoint->path == line.endpoint->path;
+      });
       if (same == rows.end()) {
         rows.push_back(line);
       } else {

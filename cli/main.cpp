@@ -1,4 +1,5 @@
-// qbapi: calls any endpoint by name, lists them, and runs a scripted session against the mock service.
+// qbapi: calls any endpoint by name, lists and describes them, writes the wire reference, and runs a
+// scripted session against the mock service.
 #include <CLI/CLI.hpp>
 #include <QBComponentAPI/host/Collection.hpp>
 #include <QBComponentAPI/item/typed/ItemTyped.hpp>
@@ -11,6 +12,7 @@
 #include <sstream>
 
 #include "cli/KeptMock.hpp"
+#include "cli/OpenApi.hpp"
 #include "cli/Registry.hpp"
 #include "mock/Service.hpp"
 
@@ -280,6 +282,10 @@ int main(int argc, char** argv) {
   addConnection(collectionCmd);
   app.add_subcommand("endpoints", "list every endpoint with its verb, faces and flags")
       ->add_flag("--markdown", markdown, "as the README's table: path, verb, session and each face's classes");
+  std::string openApiOutput;
+  app.add_subcommand("openapi",
+                     "write the OpenAPI 3.1 document of every endpoint, generated from the library's declarations")
+      ->add_option("--output", openApiOutput, "file to write; standard output without it");
   CLI::App* describeCmd =
       app.add_subcommand("describe", "list an endpoint's parameters, their types and faces, and its reply keys");
   std::string describeName;
@@ -317,6 +323,21 @@ int main(int argc, char** argv) {
       std::fputs(qb::cli::endpointTable().c_str(), stdout);
     } else {
       listEndpoints();
+    }
+    return kOk;
+  }
+  if (app.got_subcommand("openapi")) {
+    const std::string text = qb::cli::openApiText();
+    if (openApiOutput.empty()) {
+      std::fputs(text.c_str(), stdout);
+      return kOk;
+    }
+    std::ofstream file(openApiOutput, std::ios::binary | std::ios::trunc);
+    file << text;
+    file.close();
+    if (!file) {
+      std::cerr << "cannot write " << openApiOutput << "\n";
+      return kUsage;
     }
     return kOk;
   }
