@@ -3,9 +3,11 @@
 #include <httplib.h>
 #include <sys/socket.h>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/Endpoint.hpp>
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/user/UserCatalogue.hpp>
+#include <QBComponentAPI/vip/VipCatalogue.hpp>
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -19,6 +21,7 @@
 #include <thread>
 
 #include "mock/Handlers.hpp"
+#include "mock/Routes.hpp"
 
 namespace qb::mock {
 namespace {
@@ -62,50 +65,6 @@ JsonValue parameterValue(const std::string& text) {
     }
   }
   return JsonValue(text);
-}
-
-// The parameters a request must carry: those that every face of the endpoint always sends (a
-// Dictionary-face message always sends its integers and its required parameters; a Typed-face request
-// its non-optional members, files aside).
-template <class Message>
-std::vector<std::string_view> alwaysSentByDictionary() {
-  std::vector<std::string_view> keys;
-  std::apply([&](const auto&... field) { ((field.alwaysSent() ? keys.push_back(field.key) : void()), ...); },
-             Message::qbParams());
-  return keys;
-}
-
-template <class Request>
-std::vector<std::string_view> alwaysSentByTyped() {
-  std::vector<std::string_view> keys;
-  std::apply(
-      [&](const auto&... key) {
-        (
-            [&]<class K>(const K& k) {
-              if (!K::isFile && !IsOptional<typename K::Member>::value) keys.push_back(k.name);
-            }(key),
-            ...);
-      },
-      Request::codingKeys);
-  return keys;
-}
-
-template <class A>
-std::vector<std::string_view> requiredParameters() {
-  using Message = typename A::DictionaryMessage;
-  using Request = typename A::TypedRequest;
-  if constexpr (!hasFace<Request>) {
-    return alwaysSentByDictionary<Message>();
-  } else if constexpr (!hasFace<Message>) {
-    return alwaysSentByTyped<Request>();
-  } else {
-    std::vector<std::string_view> both;
-    const auto typed = alwaysSentByTyped<Request>();
-    for (std::string_view key : alwaysSentByDictionary<Message>()) {
-      if (std::find(typed.begin(), typed.end(), key) != typed.end()) both.push_back(key);
-    }
-    return both;
-  }
 }
 
 // The random engine behind tokens and codes: from `seed` when given, else from the system's entropy.
@@ -466,26 +425,15 @@ struct Service::State {
     return call;
   }
 
-  // One endpoint of a catalogue: the route, with its hand-written handler. A path with a further
-  // Dictionary-face message has one route, which insists only on what every face of it always sends.
-  template <class A>
-  void installRoute(HandlerTable& all) {
-    if constexpr (repeatsPath<A>(AllEndpoints{})) return;
-    const Endpoint& endpoint = A::endpoint;
+  // One path of the catalogues: the route, with its hand-written handler.
+  void installRoute(const Route& route, HandlerTable& all) {
+    const Endpoint& endpoint = *route.endpoint;
     const auto found = all.find(endpoint.path);
     if (found == all.end()) throw std::logic_error("qbapi-mock has no handler for " + std::string(endpoint.path));
     Handler handler = std::move(found->second);
     all.erase(found);
-    std::vector<std::string_view> required = requiredParameters<A>();
-    forEachType(AllEndpoints{}, [&]<class B>() {
-      if constexpr (!std::is_same_v<A, B>) {
-        if (B::endpoint.path != endpoint.path) return;
-        const auto other = requiredParameters<B>();
-        std::erase_if(required,
-                      [&](std::string_view key) { return std::find(other.begin(), other.end(), key) == other.end(); });
-      }
-    });
-    auto handle = [this, handler = std::move(handler), required = std::move(required)](
+    const bool mustAuth = endpoint.mustAuth();
+    auto handle = [this, handler = std::move(handler), required = route.required, mustAuth](
                       const httplib::Request& req, const Body& body, httplib::Response& res) {
       ++requests;
       try {
@@ -496,7 +444,7 @@ struct Service::State {
           if (token == tokens.end()) throw Failure{401, "invalid_token", "the access token is not valid"};
           call.userId = token->second;
         }
-        if (A::endpoint.mustAuth() && !call.userId) {
+        if (mustAuth && !call.userId) {
           throw Failure{401, "auth_required", "this endpoint needs an access token"};
         }
         for (const auto& key : required) {
@@ -529,7 +477,7 @@ struct Service::State {
     all.merge(contentHandlers());
     all.merge(itemHandlers(extras));
     all.merge(supportHandlers(extras));
-    forEachType(AllEndpoints{}, [&]<class A>() { installRoute<A>(all); });
+    for (const Route& route : catalogueRoutes()) installRoute(route, all);
     if (!all.empty())
       throw std::logic_error("qbapi-mock has a handler for " + std::string(all.begin()->first) +
                              ", which no catalogue lists");
