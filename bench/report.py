@@ -16,7 +16,7 @@ UNIT_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 TYPED = ["ceiling", "qb", "handwritten", "boost", "nlohmann", "rapidjson"]
 DICT = ["qb", "qb_monotonic", "boost_parse", "boost_parse_monotonic", "nlohmann_parse"]
 ENCODE = ["qb", "boost", "nlohmann"]
-MEMORY = ["qb", "handwritten", "boost", "nlohmann", "rapidjson", "dict_qb", "dict_qb_monotonic"]
+MEMORY = ["qb", "qb_wire", "handwritten", "boost", "nlohmann", "rapidjson", "dict_qb", "dict_qb_monotonic"]
 
 
 def load(path):

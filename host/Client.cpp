@@ -1,13 +1,11 @@
-#include <QBComponentAPI/host/Client.hpp>
-
 #include <QBComponentAPI/frame/detail/Utf8.hpp>
-
-#include "Url.hpp"
-
+#include <QBComponentAPI/host/Client.hpp>
 #include <algorithm>
 #include <cmath>
 #include <random>
 #include <thread>
+
+#include "Url.hpp"
 
 namespace qb::host {
 namespace {
@@ -42,7 +40,6 @@ std::string formEncode(const JsonMap& params) {
   return out;
 }
 
-
 // CR or LF would end a header and begin one of the sender's choosing; NUL would cut it short. The value itself
 // stays out of the message: it may be the token.
 void checkHeaderValue(std::string_view what, std::string_view value) {
@@ -50,7 +47,6 @@ void checkHeaderValue(std::string_view what, std::string_view value) {
     throw InvalidHeaderError(std::string(what) + " holds a CR, LF or NUL byte and cannot travel in a header");
   }
 }
-
 
 // A reply body as an error message may show it: control bytes, DEL and bytes that are not UTF-8 as \xHH,
 // so that a hostile body cannot drive the terminal or log it is printed to.
@@ -215,7 +211,7 @@ std::optional<std::chrono::milliseconds> Client::retryDelay(int retry,
   return delay;
 }
 
-std::string Client::exchange(HttpRequest& http) {
+PaddedBytes Client::exchange(HttpRequest& http) {
   using Clock = std::chrono::steady_clock;
   using std::chrono::milliseconds;
   // Every header this client built, checked once more where they leave it.
@@ -266,13 +262,13 @@ std::string Client::exchange(HttpRequest& http) {
     if (wait && options_.deadline && Clock::now() + *wait >= end) wait.reset();
     if (!wait) {
       if (failure) throw *failure;
-      throw HttpError(response.status, std::move(response.body), response.retryAfter);
+      throw HttpError(response.status, response.body.str(), response.retryAfter);
     }
     std::this_thread::sleep_for(*wait);
   }
 }
 
-std::string Client::payload(std::string body) const {
+PaddedBytes Client::payload(PaddedBytes body) const {
   if (!options_.envelopeKey) return body;
   const JsonMap whole = parseJsonMap(body);
   const JsonValue* inner = whole.if_contains(*options_.envelopeKey);

@@ -1,6 +1,11 @@
 // qb::host::Client: sends the library's messages and requests over HTTP.
 #pragma once
 
+#include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/frame/QBMessageBase.hpp>
+#include <QBComponentAPI/host/Transport.hpp>
 #include <chrono>
 #include <cstddef>
 #include <functional>
@@ -11,12 +16,6 @@
 #include <string>
 #include <utility>
 #include <vector>
-
-#include <QBComponentAPI/frame/Errors.hpp>
-#include <QBComponentAPI/frame/JsonValueCodec.hpp>
-#include <QBComponentAPI/frame/Protocols.hpp>
-#include <QBComponentAPI/frame/QBMessageBase.hpp>
-#include <QBComponentAPI/host/Transport.hpp>
 
 namespace qb::host {
 
@@ -117,8 +116,8 @@ struct ClientOptions {
   /// The most retries a client makes, whatever maxRetries says.
   static constexpr int kMaxRetries = 10;
 
-  std::string baseUrl;                 ///< "https://api.example.com/" (the path "v3/..." is appended)
-  bool allowInsecureLoopback = false;  ///< accept http:// for 127.0.0.0/8 (dotted quad), localhost and [::1]
+  std::string baseUrl;                       ///< "https://api.example.com/" (the path "v3/..." is appended)
+  bool allowInsecureLoopback = false;        ///< accept http:// for 127.0.0.0/8 (dotted quad), localhost and [::1]
   std::chrono::milliseconds timeout{15000};  ///< for one attempt, connecting included
   /// Extra attempts for GET (never POST) on transient transport failures (TransportError::transient()) and
   /// on 429/502/503/504; clamped to 0..kMaxRetries.
@@ -177,8 +176,9 @@ class Client {
       http.body = request.parseParamater(JSONEncoder{.dateStrategy = decoder.dateStrategy});
       http.contentType = "application/json";
     }
-    const std::string reply = payload(exchange(http));
-    return Request::Response::init(std::string_view(reply), decoder);
+    // The reply goes to the decoder as it was received, padding included: no copy.
+    const PaddedBytes reply = payload(exchange(http));
+    return Request::Response::init(reply, decoder);
   }
 
  private:
@@ -191,12 +191,12 @@ class Client {
   HttpRequest prepare(std::string_view api, std::string_view verb, bool forceHttps, bool needAuth, bool mustAuth) const;
   static void appendQuery(HttpRequest& http, const JsonMap& params);
   static void multipart(HttpRequest& http, const JsonMap& fields, const std::vector<Part>& parts);
-  std::string exchange(HttpRequest& http);
+  PaddedBytes exchange(HttpRequest& http);
   /// The wait before retry number `retry` (1 for the first), or std::nullopt when the service asked for a
   /// longer one than maxBackoff.
   std::optional<std::chrono::milliseconds> retryDelay(int retry, std::optional<std::chrono::seconds> retryAfter) const;
   /// The reply bytes the records read: the whole body, or the member under the envelope key.
-  std::string payload(std::string body) const;
+  PaddedBytes payload(PaddedBytes body) const;
 
   ClientOptions options_;
   std::shared_ptr<Transport> transport_;

@@ -1,5 +1,6 @@
 #include <curl/curl.h>
 
+#include <QBComponentAPI/host/Client.hpp>
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -12,8 +13,6 @@
 #include <mutex>
 #include <string_view>
 #include <vector>
-
-#include <QBComponentAPI/host/Client.hpp>
 
 #include "Url.hpp"
 
@@ -123,11 +122,19 @@ struct Reception {
       r.response.bytesReceived += n;
       long status = 0;
       curl_easy_getinfo(r.curl, CURLINFO_RESPONSE_CODE, &status);
-      std::string& kept = r.response.body;
+      PaddedBytes& kept = r.response.body;
       const bool success = status >= 200 && status < 300;
+      // A declared length sizes the buffer once, instead of regrowing it (and copying what it holds)
+      // as the chunks arrive. The limit was checked against the declared length before the body.
+      if (success && kept.empty()) {
+        curl_off_t length = -1;
+        if (curl_easy_getinfo(r.curl, CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length) == CURLE_OK && length > 0) {
+          kept.reserve(std::min(static_cast<std::size_t>(length), r.limit));
+        }
+      }
       const std::size_t room =
           success ? n : HttpError::kKeptBodyBytes - std::min(kept.size(), HttpError::kKeptBodyBytes);
-      kept.append(data, std::min(n, room));
+      kept.append(std::string_view(data, std::min(n, room)));
       return n;
     } catch (...) {
       r.error = std::current_exception();

@@ -2,6 +2,7 @@
 // host/mocks/MockTransport.hpp; CurlTransport is the real one.
 #pragma once
 
+#include <QBComponentAPI/frame/PaddedBytes.hpp>
 #include <chrono>
 #include <cstddef>
 #include <memory>
@@ -26,8 +27,9 @@ struct HttpRequest {
 
 struct HttpResponse {
   long status = 0;
-  /// For a status other than 2xx only the first HttpError::kKeptBodyBytes are kept.
-  std::string body{};
+  /// For a status other than 2xx only the first HttpError::kKeptBodyBytes are kept. Received with the
+  /// parser's padding after it, so the decoders read it where it is.
+  PaddedBytes body{};
   /// How long the service asked the client to wait (Retry-After, as seconds or as an HTTP date).
   std::optional<std::chrono::seconds> retryAfter{};
   /// Body bytes received, after decoding, including those not kept.

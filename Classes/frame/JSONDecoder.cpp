@@ -4,14 +4,17 @@ namespace qb::detail {
 
 void throwStreamFailure() { throw StreamFailure{}; }
 
-simdjson::ondemand::document& openDocument(std::string_view json) {
+simdjson::ondemand::document& openDocument(JsonText json) {
   thread_local simdjson::ondemand::parser parser;
   thread_local std::string buffer;
   thread_local simdjson::ondemand::document document;
   // The parser's buffers take about seven times a reply's size, mostly untouched.
-  if (givesBack(parser.capacity(), json.size())) parser = simdjson::ondemand::parser();
-  copyPadded(buffer, json);
-  simdjson::padded_string_view padded(buffer.data(), json.size(), buffer.size());
+  const std::string_view text = json.text;
+  if (givesBack(parser.capacity(), text.size())) parser = simdjson::ondemand::parser();
+  // Bytes kept with their padding are read where they are; any others are copied first.
+  const char* at = json.padded ? text.data() : copyPadded(buffer, text);
+  const std::size_t room = json.padded ? PaddedBytes::kPadding : simdjson::SIMDJSON_PADDING;
+  simdjson::padded_string_view padded(at, text.size(), text.size() + room);
   if (parser.iterate(padded).get(document)) throwStreamFailure();
   return document;
 }

@@ -1,11 +1,11 @@
 // qb::JSONDecoder: reply bytes straight into Typed-face records.
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include <QBComponentAPI/frame/Codable.hpp>
 #include <QBComponentAPI/frame/Date.hpp>
+#include <QBComponentAPI/frame/PaddedBytes.hpp>
+#include <string>
+#include <string_view>
 
 namespace qb {
 
@@ -20,7 +20,7 @@ class JSONDecoder {
   /// Unknown keys are skipped. The decoding of each record type is instantiated by that record's .cpp
   /// file (QB_TYPED_DEFINE), so this header stays free of the parser's.
   template <class T>
-  T decode(std::string_view json) const;
+  T decode(JsonText json) const;
 };
 
 }  // namespace qb

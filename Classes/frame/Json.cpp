@@ -263,7 +263,8 @@ bool isWritableJson(const JsonValue& value, std::size_t depth) {
 
 }  // namespace detail
 
-JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
+JsonValue parseJson(JsonText json, boost::json::storage_ptr storage) {
+  const std::string_view bytes = json.text;
   auto& parser = threadParser();
   // The parser's buffers take about fourteen times the largest reply seen.
   if (detail::givesBack(parser.capacity(), bytes.size())) parser = simdjson::dom::parser();
@@ -273,15 +274,16 @@ JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage) {
     }
   }
   thread_local std::string buffer;
-  detail::copyPadded(buffer, bytes);
+  // Bytes kept with their padding are read where they are; any others are copied first.
+  const char* text = json.padded ? bytes.data() : detail::copyPadded(buffer, bytes);
   simdjson::dom::element root;
-  if (auto error = parser.parse(buffer.data(), bytes.size(), false).get(root)) throw refused(bytes, error);
+  if (auto error = parser.parse(text, bytes.size(), false).get(root)) throw refused(bytes, error);
   JsonValue value(std::move(storage));
   convertInto(root, value);
   return value;
 }
 
-JsonMap parseJsonMap(std::string_view bytes, boost::json::storage_ptr storage) {
+JsonMap parseJsonMap(JsonText bytes, boost::json::storage_ptr storage) {
   JsonValue value = parseJson(bytes, std::move(storage));
   if (!value.is_object()) {
     throw DecodingError(DecodingError::Kind::typeMismatch, {},

@@ -1,11 +1,11 @@
 // The JSON value types shared by both faces, and the parser and writers the library relies on.
 #pragma once
 
+#include <QBComponentAPI/frame/PaddedBytes.hpp>
 #include <boost/json/array.hpp>
 #include <boost/json/object.hpp>
 #include <boost/json/string.hpp>
 #include <boost/json/value.hpp>
-
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -27,10 +27,10 @@ inline constexpr std::size_t kMaxJsonDepth = 256;
 /// last one wins. Throws qb::DecodingError (dataCorrupted) for invalid JSON, invalid UTF-8, numbers out
 /// of range (1e400, integers past UINT64_MAX) and nesting past kMaxJsonDepth; the error's location() gives
 /// the first byte at fault. Allocates from `storage`.
-JsonValue parseJson(std::string_view bytes, boost::json::storage_ptr storage = {});
+JsonValue parseJson(JsonText bytes, boost::json::storage_ptr storage = {});
 
 /// As parseJson, for replies that must be a JSON object; anything else is a DecodingError (typeMismatch).
-JsonMap parseJsonMap(std::string_view bytes, boost::json::storage_ptr storage = {});
+JsonMap parseJsonMap(JsonText bytes, boost::json::storage_ptr storage = {});
 
 /// Compact JSON text of a map (the host-level `toJson`). Throws qb::EncodingError when the value cannot
 /// be written as JSON (a non-finite number, invalid UTF-8 in a text, nesting past kMaxJsonDepth).

@@ -93,4 +93,4 @@ std::vector<APIMimeBody> mimeBodiesOf(const T& request) {
   }
 
 /// Instantiates qb::JSONDecoder for a record; put in the record's .cpp file.
-#define QB_TYPED_DEFINE(Type) template Type qb::JSONDecoder::decode<Type>(std::string_view) const;
+#define QB_TYPED_DEFINE(Type) template Type qb::JSONDecoder::decode<Type>(::qb::JsonText) const;

@@ -28,7 +28,7 @@ ClientOptions loopback(std::string baseUrl) {
 }
 
 std::string fetch(const std::string& url) {
-  return host::makeCurlTransport()->send(host::HttpRequest{.method = "GET", .url = url}).body;
+  return host::makeCurlTransport()->send(host::HttpRequest{.method = "GET", .url = url}).body.str();
 }
 
 // A whole session through one face: every account endpoint in an order that makes sense to the service.

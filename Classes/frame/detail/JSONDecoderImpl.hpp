@@ -2,19 +2,17 @@
 // their record (QB_TYPED_DEFINE), because it brings in the parser's header.
 #pragma once
 
-#include <QBComponentAPI/frame/detail/Simdjson.hpp>
-
-#include <cstring>
-
 #include <QBComponentAPI/frame/JSONDecoder.hpp>
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/detail/Simdjson.hpp>
+#include <cstring>
 
 namespace qb::detail {
 
 // Fast path failure: the slow path will find and report the exact error.
 [[noreturn]] void throwStreamFailure();
 // The thread's document over `json` (copied into a padded buffer the thread reuses).
-simdjson::ondemand::document& openDocument(std::string_view json);
+simdjson::ondemand::document& openDocument(JsonText json);
 // By reference: the parser's value is larger than the registers it would be passed in, and this recurses.
 JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth);
 
@@ -179,7 +177,7 @@ struct StreamFailure {};
 namespace qb {
 
 template <class T>
-T JSONDecoder::decode(std::string_view json) const {
+T JSONDecoder::decode(JsonText json) const {
   // Fast path: straight from the parser in document order. Any failure, and any reply with trailing
   // content, is decoded again from a full parse in declared order, which reports the exact error (or,
   // for replies with duplicate keys, the same last-wins result).
@@ -199,7 +197,7 @@ T JSONDecoder::decode(std::string_view json) const {
   }
   JsonValueDecoder exact;
   exact.dateStrategy = dateStrategy;
-  return exact.decode<T>(parseJson(json));
+  return exact.decode<T>(parseJson(json.text));
 }
 
 }  // namespace qb
@@ -210,7 +208,7 @@ T JSONDecoder::decode(std::string_view json) const {
 // umbrella header: the parser's header is then compiled once per domain, not once per record.
 #define QB_TYPED_CHECK_API_BOTH_(constant, path, verb, auth, Message, Request) \
   QB_TYPED_CHECK_API_TYPED_(constant, path, verb, auth, Request)
-#define QB_TYPED_CHECK_API_TYPED_(constant, path, verb, auth, Request)   \
+#define QB_TYPED_CHECK_API_TYPED_(constant, path, verb, auth, Request)  \
   static_assert(::qb::sameEndpoint(::qb::Request::kEndpoint, constant), \
                 #Request " declares another endpoint than its catalogue line " #constant);
 #define QB_TYPED_DEFINE_API_BOTH_(constant, path, verb, auth, Message, Request) QB_TYPED_DEFINE(qb::Request::Response)
@@ -219,9 +217,9 @@ T JSONDecoder::decode(std::string_view json) const {
 #define QB_TYPED_DEFINE_RECORD_BOTH_(Dictionary, Typed) QB_TYPED_DEFINE(qb::Typed)
 #define QB_TYPED_DEFINE_RECORD_TYPED_(Typed) QB_TYPED_DEFINE(qb::Typed)
 #define QB_TYPED_SKIP_RECORD_DICT_(Dictionary)
-#define QB_TYPED_DEFINE_DOMAIN(domain, ENDPOINTS, RECORDS)                                          \
-  namespace qb::domain {                                                                            \
-  ENDPOINTS(QB_TYPED_CHECK_API_BOTH_, QB_TYPED_SKIP_API_DICT_, QB_TYPED_CHECK_API_TYPED_)           \
-  }                                                                                                 \
-  ENDPOINTS(QB_TYPED_DEFINE_API_BOTH_, QB_TYPED_SKIP_API_DICT_, QB_TYPED_DEFINE_API_TYPED_)         \
+#define QB_TYPED_DEFINE_DOMAIN(domain, ENDPOINTS, RECORDS)                                  \
+  namespace qb::domain {                                                                    \
+  ENDPOINTS(QB_TYPED_CHECK_API_BOTH_, QB_TYPED_SKIP_API_DICT_, QB_TYPED_CHECK_API_TYPED_)   \
+  }                                                                                         \
+  ENDPOINTS(QB_TYPED_DEFINE_API_BOTH_, QB_TYPED_SKIP_API_DICT_, QB_TYPED_DEFINE_API_TYPED_) \
   RECORDS(QB_TYPED_DEFINE_RECORD_BOTH_, QB_TYPED_SKIP_RECORD_DICT_, QB_TYPED_DEFINE_RECORD_TYPED_)

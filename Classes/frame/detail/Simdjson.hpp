@@ -16,6 +16,7 @@
 #endif
 #include <simdjson.h>
 
+#include <QBComponentAPI/frame/PaddedBytes.hpp>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -31,13 +32,17 @@ inline bool givesBack(std::size_t capacity, std::size_t replySize) noexcept {
   return capacity > kLargeBuffer && replySize < kSmallReply;
 }
 
-// Copies `bytes` into `buffer` followed by the parser's padding (zeros). The buffer is sized once for
-// both: appending the padding to a buffer sized for the text alone would copy the whole reply again.
-inline void copyPadded(std::string& buffer, std::string_view bytes) {
+// Copies `bytes` into `buffer` followed by the parser's padding (zeros) and returns the copy. The buffer
+// is sized once for both: appending the padding to a buffer sized for the text alone would copy the
+// whole reply again.
+inline const char* copyPadded(std::string& buffer, std::string_view bytes) {
   if (givesBack(buffer.capacity(), bytes.size())) std::string().swap(buffer);
   buffer.reserve(bytes.size() + simdjson::SIMDJSON_PADDING);
   buffer.assign(bytes);
   buffer.append(simdjson::SIMDJSON_PADDING, '\0');
+  return buffer.data();
 }
+
+static_assert(PaddedBytes::kPadding >= simdjson::SIMDJSON_PADDING, "PaddedBytes must keep the parser's padding");
 
 }  // namespace qb::detail
