@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace qb {
 
@@ -63,8 +64,11 @@ struct JsonText {
   bool padded = false;
 
   JsonText(std::string_view t) noexcept : text(t) {}
-  JsonText(const std::string& t) noexcept : text(t) {}
-  JsonText(const char* t) noexcept : text(t) {}
+  /// Any other text: std::string, a C string, a JSON library's own string type...
+  template <class Text>
+  requires(std::is_convertible_v<const Text&, std::string_view> && !std::is_same_v<Text, PaddedBytes>)
+      JsonText(const Text& t)
+  noexcept(noexcept(std::string_view(t))) : text(std::string_view(t)) {}
   JsonText(const PaddedBytes& bytes) noexcept : text(bytes.view()), padded(bytes.padded()) {}
 };
 
