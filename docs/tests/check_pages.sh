@@ -52,6 +52,11 @@ check index.html \
   'Host, mock service and the qbapi tool</h1>' \
   'href="annotated.html"'
 
+# The guides are pages of the reference too.
+check md_docs_getting_started.html \
+  '<title>QBComponentAPI: Getting started</title>' \
+  'QB_BASE_URL'
+
 # The generated pages: every record's keys, every endpoint's keys.
 check records.html \
   'Records: JSON keys' \
