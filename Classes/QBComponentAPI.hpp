@@ -5,6 +5,7 @@
 #include <QBComponentAPI/frame/Catalogue.hpp>
 #include <QBComponentAPI/frame/Codable.hpp>
 #include <QBComponentAPI/frame/Date.hpp>
+#include <QBComponentAPI/frame/Declarations.hpp>
 #include <QBComponentAPI/frame/DictModel.hpp>
 #include <QBComponentAPI/frame/Endpoint.hpp>
 #include <QBComponentAPI/frame/Enum.hpp>

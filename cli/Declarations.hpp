@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/Declarations.hpp>
 #include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include <cstddef>
 #include <optional>
@@ -18,11 +19,7 @@
 
 namespace qb::cli::decl {
 
-// Stands for a type in the walks' callbacks.
-template <class T>
-struct TypeTag {
-  using type = T;
-};
+using qb::TypeTag;
 
 // The property type of the Dictionary face's upload, which it keeps outside its parameter table.
 using AvatarProperty = std::optional<std::vector<std::byte>>;
@@ -33,12 +30,22 @@ constexpr bool takesAvatar = requires(Message& m) {
   m.setAvatar(std::vector<std::byte>{});
 };
 
+// The tool's word for what a face requires of a key.
+constexpr Need needOf(KeyNeed need) {
+  switch (need) {
+    case KeyNeed::required: return Need::required;
+    case KeyNeed::zeroWhenAbsent: return Need::alwaysSent;
+    case KeyNeed::optional: break;
+  }
+  return Need::optional;
+}
+
 // f(key, required, TypeTag<T>) for each field of a Dictionary-face table (a model's fields, a message's
 // parameters or results), T being the property type, in declared order.
 template <class Table, class F>
 void forEachDictionaryField(const Table& table, F&& f) {
-  qb::detail::forEachField(table, [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
-    f(field.key, field.required, TypeTag<T>{});
+  forEachDictionaryKey(table, [&]<class T>(std::string_view key, KeyNeed need, TypeTag<T> type) {
+    f(key, need == KeyNeed::required, type);
   });
 }
 
@@ -46,12 +53,8 @@ void forEachDictionaryField(const Table& table, F&& f) {
 // takes one.
 template <class Message, class F>
 void forEachDictionaryParameter(F&& f) {
-  qb::detail::forEachField(Message::qbParams(), [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
-    f(field.key,
-      field.required       ? Need::required
-      : field.alwaysSent() ? Need::alwaysSent
-                           : Need::optional,
-      TypeTag<T>{});
+  forEachDictionaryKey(Message::qbParams(), [&]<class T>(std::string_view key, KeyNeed need, TypeTag<T> type) {
+    f(key, needOf(need), type);
   });
   if constexpr (takesAvatar<Message>) f(std::string_view("avatar"), Need::optional, TypeTag<AvatarProperty>{});
 }
@@ -60,16 +63,9 @@ void forEachDictionaryParameter(F&& f) {
 // declared order. An optional member is optional, any other required.
 template <Codable Record, class F>
 void forEachCodingKey(F&& f) {
-  std::apply(
-      [&](const auto&... k) {
-        (
-            [&]<class K>(const K& key) {
-              using M = typename K::Member;
-              f(key.name, IsOptional<M>::value ? Need::optional : Need::required, TypeTag<M>{}, K::isFile);
-            }(k),
-            ...);
-      },
-      Record::codingKeys);
+  qb::forEachCodingKey<Record>([&]<class M>(std::string_view key, KeyNeed need, TypeTag<M> type, bool isFile) {
+    f(key, needOf(need), type, isFile);
+  });
 }
 
 // The name of a Dictionary-face property type in a description.

@@ -1,8 +1,8 @@
 #include "mock/Routes.hpp"
 
 #include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/Declarations.hpp>
 #include <algorithm>
-#include <tuple>
 
 namespace qb::mock {
 namespace {
@@ -10,23 +10,18 @@ namespace {
 template <class Message>
 std::vector<std::string_view> alwaysSentByDictionary() {
   std::vector<std::string_view> keys;
-  std::apply([&](const auto&... field) { ((field.alwaysSent() ? keys.push_back(field.key) : void()), ...); },
-             Message::qbParams());
+  forEachDictionaryKey(Message::qbParams(), [&](std::string_view key, KeyNeed need, auto) {
+    if (need != KeyNeed::optional) keys.push_back(key);
+  });
   return keys;
 }
 
 template <class Request>
 std::vector<std::string_view> alwaysSentByTyped() {
   std::vector<std::string_view> keys;
-  std::apply(
-      [&](const auto&... key) {
-        (
-            [&]<class K>(const K& k) {
-              if (!K::isFile && !IsOptional<typename K::Member>::value) keys.push_back(k.name);
-            }(key),
-            ...);
-      },
-      Request::codingKeys);
+  forEachCodingKey<Request>([&](std::string_view key, KeyNeed need, auto, bool isFile) {
+    if (!isFile && need == KeyNeed::required) keys.push_back(key);
+  });
   return keys;
 }
 

@@ -5,72 +5,67 @@
 
 #include <cxxabi.h>
 
-#include <QBComponentAPI/frame/Codable.hpp>
-#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/frame/Declarations.hpp>
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <typeinfo>
 #include <vector>
 
 namespace qb::test {
 
 // The keys of a Dictionary-face table (&Class::qbFields, &Class::qbParams or &Class::qbResults) whose
-// field passes `keep`, in order.
+// need passes `keep`, in order.
 template <auto TableFn, class Keep>
 std::vector<std::string> dictionaryKeysWhere(Keep keep) {
   std::vector<std::string> keys;
-  std::apply([&](const auto&... field) { ((keep(field) ? (void)keys.emplace_back(field.key) : (void)0), ...); },
-             TableFn());
+  forEachDictionaryKey(TableFn(), [&](std::string_view key, KeyNeed need, auto) {
+    if (keep(need)) keys.emplace_back(key);
+  });
   return keys;
 }
 
 template <auto TableFn>
 std::vector<std::string> dictionaryKeys() {
-  return dictionaryKeysWhere<TableFn>([](const auto&) { return true; });
+  return dictionaryKeysWhere<TableFn>([](KeyNeed) { return true; });
 }
 
 // The keys declared QB_REQUIRED: a model raises ParameterCheckFailException when a reply lacks one, and
 // getParams when the app left one out.
 template <auto TableFn>
 std::vector<std::string> dictionaryRequiredKeys() {
-  return dictionaryKeysWhere<TableFn>([](const auto& field) { return field.required; });
+  return dictionaryKeysWhere<TableFn>([](KeyNeed need) { return need == KeyNeed::required; });
 }
 
 // The parameters a message's getParams always puts in its map: the required ones and every integer
 // (which is 0 when the app set nothing).
 template <auto TableFn>
 std::vector<std::string> dictionaryAlwaysSentKeys() {
-  return dictionaryKeysWhere<TableFn>([](const auto& field) { return field.alwaysSent(); });
+  return dictionaryKeysWhere<TableFn>([](KeyNeed need) { return need != KeyNeed::optional; });
 }
 
-// A record's or request's coding keys whose key passes `keep`; file members never count, since they travel
-// as multipart bodies, not under a key.
+// A record's or request's coding keys whose need passes `keep`; file members never count, since they
+// travel as multipart bodies, not under a key.
 template <class T, class Keep>
 std::vector<std::string> typedKeysWhere(Keep keep) {
   std::vector<std::string> keys;
-  std::apply(
-      [&](const auto&... key) {
-        (
-            [&]<class K>(const K& k) {
-              if (!K::isFile && keep(k)) keys.emplace_back(k.name);
-            }(key),
-            ...);
-      },
-      T::codingKeys);
+  forEachCodingKey<T>([&](std::string_view key, KeyNeed need, auto, bool isFile) {
+    if (!isFile && keep(need)) keys.emplace_back(key);
+  });
   return keys;
 }
 
 template <class T>
 std::vector<std::string> typedKeys() {
-  return typedKeysWhere<T>([](const auto&) { return true; });
+  return typedKeysWhere<T>([](KeyNeed) { return true; });
 }
 
 // The coding keys of members that are not std::optional: always encoded, and a decoding error
 // (keyNotFound) when a reply lacks one.
 template <class T>
 std::vector<std::string> typedRequiredKeys() {
-  return typedKeysWhere<T>([]<class K>(const K&) { return !IsOptional<typename K::Member>::value; });
+  return typedKeysWhere<T>([](KeyNeed need) { return need == KeyNeed::required; });
 }
 
 // A class's name as its declaration spells it, without the namespace: "QBAPIVipInfo", "VipInfoModel".

@@ -9,6 +9,7 @@
 //
 //   qb_doc_keys OUTPUT.dox
 #include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/Declarations.hpp>
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -67,33 +68,29 @@ struct Table {
   }
 };
 
+// What a face's need reads as in a table.
+Need needOf(KeyNeed need) {
+  switch (need) {
+    case KeyNeed::required: return Need::required;
+    case KeyNeed::zeroWhenAbsent: return Need::zeroWhenAbsent;
+    case KeyNeed::optional: break;
+  }
+  return Need::optional;
+}
+
 // A Dictionary-face field table (qbFields, qbParams or qbResults).
 template <class Fields>
 void addDictionary(Table& table, const Fields& fields) {
-  std::apply(
-      [&](const auto&... field) {
-        ((table.row(field.key).dictionary = field.required       ? Need::required
-                                            : field.alwaysSent() ? Need::zeroWhenAbsent
-                                                                 : Need::optional),
-         ...);
-      },
-      fields);
+  forEachDictionaryKey(fields,
+                       [&](std::string_view key, KeyNeed need, auto) { table.row(key).dictionary = needOf(need); });
 }
 
 // A Typed-face record's, request's or response's coding keys.
 template <class T>
 void addTyped(Table& table) {
-  std::apply(
-      [&](const auto&... key) {
-        (
-            [&]<class K>(const K& k) {
-              table.row(k.name).typed = K::isFile                               ? Need::filePart
-                                        : IsOptional<typename K::Member>::value ? Need::optional
-                                                                                : Need::required;
-            }(key),
-            ...);
-      },
-      T::codingKeys);
+  forEachCodingKey<T>([&](std::string_view key, KeyNeed need, auto, bool isFile) {
+    table.row(key).typed = isFile ? Need::filePart : needOf(need);
+  });
 }
 
 template <class Dictionary, class Typed, class FieldsOf>
