@@ -10,6 +10,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "host/RecordingTransport.hpp"
+
 namespace qb::docs {
 
 // The base URL of the mock service run_with_mock.py started for this block.
@@ -31,20 +33,7 @@ inline std::string signIn(host::Client& client) {
   return token;
 }
 
-// Hands every exchange to libcurl's transport and keeps the body of the last reply.
-class RecordingTransport : public host::Transport {
- public:
-  host::HttpResponse send(const host::HttpRequest& request) override {
-    host::HttpResponse response = curl_->send(request);
-    lastBody_ = response.body;
-    return response;
-  }
-  const std::string& lastBody() const { return lastBody_; }
-
- private:
-  std::shared_ptr<host::Transport> curl_ = host::makeCurlTransport();
-  std::string lastBody_;
-};
+using test::RecordingTransport;
 
 // A client of the mock service whose transport records the replies.
 struct RecordingClient {

@@ -16,6 +16,7 @@
 #include "cli/Registry.hpp"
 #include "host/ContentArguments.hpp"
 #include "host/MockSession.hpp"
+#include "host/RecordingTransport.hpp"
 
 namespace qb {
 namespace {
@@ -267,22 +268,7 @@ TEST(OpenApiDocument, IsTheSameTextEveryTime) {
 
 // --- Replies against the document -----------------------------------------------------------------------
 
-// The transport under test clients: libcurl's, keeping the last reply's bytes as they arrived, or a canned
-// reply instead of a service.
-class Recorder : public host::Transport {
- public:
-  std::optional<std::string> canned;
-  std::string lastBody;
-
-  host::HttpResponse send(const host::HttpRequest& request) override {
-    host::HttpResponse response = canned ? host::HttpResponse{.status = 200, .body = *canned} : curl_->send(request);
-    lastBody = response.body;
-    return response;
-  }
-
- private:
-  std::shared_ptr<host::Transport> curl_ = host::makeCurlTransport();
-};
+using Recorder = test::RecordingTransport;
 
 std::vector<std::byte> bytes(std::string_view text) {
   std::vector<std::byte> out;
@@ -407,9 +393,9 @@ TEST(OpenApiConformance, EveryReplyOfTheMockServiceConformsToItsOperation) {
     ASSERT_NE(entry, nullptr);
     EXPECT_TRUE(called.insert(entry->name).second) << "called twice";
     sendOf (*entry)(session.client, arguments(call, values));
-    const JsonValue reply = parseJson(recorder->lastBody);
+    const JsonValue reply = parseJson(recorder->lastBody());
     const auto error = validator.check(replySchema(*entry), reply);
-    EXPECT_FALSE(error) << *error << "\n" << recorder->lastBody;
+    EXPECT_FALSE(error) << *error << "\n" << recorder->lastBody();
   }
   for (const auto& entry : cli::registry()) EXPECT_TRUE(called.contains(entry.name)) << entry.name << " never called";
 }
@@ -487,7 +473,7 @@ TEST(OpenApiConformance, BrokenRepliesAreRejectedAsTheTypedFaceRejectsThem) {
     const cli::Entry* entry = cli::findEntry(c.endpoint);
     ASSERT_NE(entry, nullptr);
     entry->typed(session.client, cli::Arguments{.values = parseJsonMap(c.args), .files = {}});
-    replies[c.endpoint] = recorder->lastBody;
+    replies[c.endpoint] = recorder->lastBody();
   }
   // The same replies, broken, decoded by the Typed face through the host.
   recorder->canned.emplace();
