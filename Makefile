@@ -31,13 +31,9 @@ deps:
 	$(call install_missing,$(DEBIAN_PACKAGES))
 
 # node and npm, for the wire reference's validator only: Debian's packages unless the machine has them.
+NODE_FOUND := $(shell command -v node >/dev/null && command -v npm >/dev/null && echo yes)
 node-deps:
-	@if ! command -v node >/dev/null || ! command -v npm >/dev/null; then \
-	  echo "Installing: nodejs npm"; \
-	  sudo=""; [ "$$(id -u)" -ne 0 ] && command -v sudo >/dev/null && sudo=sudo; \
-	  $$sudo env DEBIAN_FRONTEND=noninteractive apt-get update -qq && \
-	  $$sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends nodejs npm; \
-	fi
+	$(if $(NODE_FOUND),@true,$(call install_missing,nodejs npm))
 
 build: deps
 	cmake --preset default
