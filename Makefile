@@ -94,11 +94,12 @@ fuzz: deps
 	fuzz/run.sh build/fuzz $(FUZZ_SECONDS)
 
 # The API reference in build/default/docs/html, built without a single Doxygen warning, then its checks
-# (the pages as a headless browser renders them, every record on the records page).
+# (the pages as a headless browser renders them, every record on the records page), and every C++ block
+# of the README and the guides compiled and run against the mock service.
 docs: deps
 	$(call install_missing,$(DOCS_PACKAGES))
 	cmake --preset default
-	cmake --build --preset default --target docs -j $(JOBS)
+	cmake --build --preset default --target docs qb_doc_blocks -j $(JOBS)
 	ctest --preset docs
 
 format:
