@@ -15,9 +15,14 @@
 
 namespace qb {
 
-using AllEndpoints =
-    Concat<user::Endpoints, item::Endpoints, cms::Endpoints, share::Endpoints, support::Endpoints, vip::Endpoints>;
-using AllRecords = Concat<user::Records, item::Records, cms::Records, share::Records, support::Records, vip::Records>;
+/// Each domain's endpoints and records, domain by domain: for tools that compile one domain at a time.
+using DomainEndpointLists =
+    TypeList<user::Endpoints, item::Endpoints, cms::Endpoints, share::Endpoints, support::Endpoints, vip::Endpoints>;
+using DomainRecordLists =
+    TypeList<user::Records, item::Records, cms::Records, share::Records, support::Records, vip::Records>;
+
+using AllEndpoints = Flatten<DomainEndpointLists>;
+using AllRecords = Flatten<DomainRecordLists>;
 
 /// The name of every class of every catalogue, domain by domain.
 inline constexpr std::span<const std::string_view> kCatalogueClassNames[] = {

@@ -1,11 +1,21 @@
 // What the tool reads from the faces' declarations: each Dictionary-face field with its property type and
 // need, each Typed-face coding key with its member type. The registry's descriptions and the wire
 // reference are both built from these walks. Heavy templates: included only by the .cpp files that
-// instantiate them over the catalogues.
+// instantiate them over one domain (cli/domains/), after that domain's face headers.
 #pragma once
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/Catalogues.hpp>
+#include <QBComponentAPI/frame/Codable.hpp>
+#include <QBComponentAPI/frame/Date.hpp>
 #include <QBComponentAPI/frame/Declarations.hpp>
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/frame/Enum.hpp>
+#include <QBComponentAPI/frame/HostTypes.hpp>
+#include <QBComponentAPI/frame/JSONDecoder.hpp>
+#include <QBComponentAPI/frame/JSONEncoder.hpp>
+#include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/Protocols.hpp>
+#include <QBComponentAPI/frame/QBMessageBase.hpp>
 #include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include <cstddef>
 #include <optional>

@@ -1,14 +1,13 @@
 // Every endpoint the tool can call, by name ("user/get_config"), in each face it has.
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
-
 #include <QBComponentAPI/frame/Endpoint.hpp>
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
 #include <QBComponentAPI/host/Client.hpp>
+#include <functional>
+#include <string>
+#include <vector>
 
 namespace qb::cli {
 
@@ -48,7 +47,7 @@ struct ParameterInfo {
 
 // What an endpoint takes and answers, from its declarations.
 struct Description {
-  std::vector<ParameterInfo> parameters;        // Dictionary-face order first, then Typed-only keys
+  std::vector<ParameterInfo> parameters;         // Dictionary-face order first, then Typed-only keys
   std::vector<std::string> dictionaryReplyKeys;  // the message's results
   std::vector<std::string> typedReplyKeys;       // the response's coding keys
 };

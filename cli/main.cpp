@@ -1,16 +1,14 @@
 // qbapi: calls any endpoint by name, lists and describes them, writes the wire reference, and runs a
 // scripted session against the mock service.
 #include <CLI/CLI.hpp>
-#include <QBComponentAPI/host/Collection.hpp>
-#include <QBComponentAPI/item/typed/ItemTyped.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/host/Client.hpp>
 #include <fstream>
 #include <iomanip>
 #include <iostream>
 #include <iterator>
 #include <sstream>
 
+#include "cli/Demo.hpp"
 #include "cli/KeptMock.hpp"
 #include "cli/OpenApi.hpp"
 #include "cli/Registry.hpp"
@@ -185,71 +183,6 @@ void describeEndpoint(const qb::cli::Entry& entry) {
   if (entry.typed) keys("Typed", d.typedReplyKeys);
 }
 
-void step(int n, std::string_view face, std::string_view what) {
-  std::cout << "\n[" << n << "] " << what << "  (" << face << " face)\n";
-}
-
-// initialise, get_config, update with an avatar, get, get_faq, the collection through the pager,
-// delete_account, each shown as it goes.
-void demo(qb::host::Client& client) {
-  step(1, "Dictionary", "initialise: a guest account and its token");
-  auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, qb::rawValue(qb::LanguageCode::en),
-                                                        qb::JsonValue("US"));
-  std::cout << "  params " << qb::toJson(init->getParams()) << "\n";
-  client.send(*init);
-  client.setAccessToken(std::string(init->accessToken()->as_string()));
-  std::cout << "  user_id " << *init->user()->userId() << " (above 2^53, exact), guest " << *init->user()->guestUser()
-            << ", token received\n";
-
-  step(2, "Typed", "get_config");
-  const auto config = client.send(qb::UserGetConfigRequest{.languageCode = qb::LanguageCode::en, .countryCode = "US"});
-  std::cout << "  " << qb::JSONEncoder().encode(config.config) << "\n";
-
-  step(3, "Dictionary", "update: nickname, gender and an avatar as a multipart upload");
-  const std::string png = "\x89PNG\r\n\x1a\n qbapi demo avatar";
-  std::vector<std::byte> avatar;
-  for (char c : png) avatar.push_back(static_cast<std::byte>(c));
-  auto update = qb::QBUserUpdateMessage::initWithData(qb::JsonValue("Fern"), avatar, qb::rawValue(qb::Gender::female));
-  std::cout << "  params " << qb::toJson(update->getParams()) << ", " << update->mimeBodies().size()
-            << " multipart body of " << avatar.size() << " bytes\n";
-  client.send(*update);
-  std::cout << "  avatar_url " << std::string_view(update->avatarUrl()->as_string()) << "\n";
-
-  step(4, "Typed", "get: what the service stored");
-  const auto user = client.send(qb::UserGetUserRequest{});
-  std::cout << "  nickname " << user.user.nickname.value_or("?") << ", gender "
-            << qb::caseName(user.user.gender.value_or(qb::Gender::unknown)) << ", avatar "
-            << user.user.avatarUrl.value_or("?") << "\n";
-  const auto stored =
-      qb::host::makeCurlTransport()->send(qb::host::HttpRequest{.method = "GET", .url = *user.user.avatarUrl});
-  std::cout << "  the avatar served back is " << (stored.body == png ? "identical" : "DIFFERENT") << "\n";
-
-  step(5, "Dictionary", "get_faq");
-  auto faq =
-      qb::QBUserGetFaqMessage::initWithData(qb::rawValue(qb::LanguageCode::en), qb::rawValue(qb::DeviceType::ios));
-  client.send(*faq);
-  const auto faqs = faq->faqs();
-  for (const auto& entry : *faqs) std::cout << "  - " << std::string_view(entry->title()->as_string()) << "\n";
-
-  step(6, "Typed", "the whole collection through the pager, 5 items a page");
-  qb::host::Collection items = client.collection({.pageSize = 5});
-  std::size_t count = 0;
-  for (const qb::SimpleItemModel& item : items) {
-    if (count++ < 3) std::cout << "  - " << item.itemId << " " << item.name << "\n";
-  }
-  std::cout << "  " << count << " items in " << items.pagesFetched() << " pages; resume after "
-            << items.cursor().value_or(0) << "\n";
-
-  step(7, "Typed", "delete_account");
-  client.send(qb::UserDeleteAccountRequest{});
-  std::cout << "  deleted\n";
-  try {
-    client.send(qb::UserGetUserRequest{});
-  } catch (const qb::host::HttpError& e) {
-    std::cout << "  get afterwards answers HTTP " << e.status() << ": the account is gone\n";
-  }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -370,19 +303,8 @@ int main(int argc, char** argv) {
   }
   if (app.got_subcommand("collection")) {
     return withClient(baseUrl, token, envelope, insecureLoopback, verbose, [&](qb::host::Client& client) {
-      if (baseUrl.empty() && !client.hasAccessToken()) {
-        auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
-        client.send(*init);
-        client.setAccessToken(std::string(init->accessToken()->as_string()));
-      }
-      qb::host::Collection items = client.collection({.pageSize = pageSize, .after = after});
-      try {
-        for (const qb::SimpleItemModel& item : items) std::cout << qb::JSONEncoder().encode(item) << "\n";
-      } catch (...) {
-        // What was printed stays valid: say where to resume before reporting the failure.
-        if (items.cursor()) std::cerr << "stopped; resume with --after " << *items.cursor() << "\n";
-        throw;
-      }
+      if (baseUrl.empty() && !client.hasAccessToken()) qb::cli::openGuestSession(client);
+      qb::cli::printCollection(client, pageSize, after);
     });
   }
   if (app.got_subcommand("demo")) {
@@ -393,7 +315,7 @@ int main(int argc, char** argv) {
                    "it uses, so --base-url and --token are refused (use qbapi call for a real service)\n";
       return kUsage;
     }
-    return withClient(baseUrl, token, envelope, insecureLoopback, verbose, demo, /*mayUseKept=*/false);
+    return withClient(baseUrl, token, envelope, insecureLoopback, verbose, qb::cli::demo, /*mayUseKept=*/false);
   }
 
   const qb::cli::Entry* entry = qb::cli::findEntry(name);
@@ -419,11 +341,7 @@ int main(int argc, char** argv) {
   }
   return withClient(baseUrl, token, envelope, insecureLoopback, verbose, [&](qb::host::Client& client) {
     // Without a service of its own the tool opens a session on the mock first, so that calls needing one work.
-    if (baseUrl.empty() && !client.hasAccessToken() && entry->endpoint->needAuth()) {
-      auto init = qb::QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, qb::JsonValue("US"));
-      client.send(*init);
-      client.setAccessToken(std::string(init->accessToken()->as_string()));
-    }
+    if (baseUrl.empty() && !client.hasAccessToken() && entry->endpoint->needAuth()) qb::cli::openGuestSession(client);
     std::cout << pretty(send(client, args)) << "\n";
   });
 }

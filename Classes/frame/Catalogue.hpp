@@ -107,6 +107,16 @@ struct ConcatImpl<TypeList<A...>, TypeList<B...>, Rest...> : ConcatImpl<TypeList
 template <class... Lists>
 using Concat = typename ConcatImpl<Lists...>::type;
 
+/// Concatenation of the lists of a list of type lists.
+template <class ListOfLists>
+struct FlattenImpl;
+template <class... Lists>
+struct FlattenImpl<TypeList<Lists...>> {
+  using type = Concat<Lists...>;
+};
+template <class ListOfLists>
+using Flatten = typename FlattenImpl<ListOfLists>::type;
+
 /// Calls `f.template operator()<T>()` for each T of the list, in order.
 template <class... T, class F>
 constexpr void forEachType(TypeList<T...>, F&& f) {

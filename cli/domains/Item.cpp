@@ -1,0 +1,7 @@
+// The tool's part of the collection of identified items: its registry entries and its part of the wire reference.
+#include <QBComponentAPI/item/dict/ItemDict.hpp>
+#include <QBComponentAPI/item/typed/ItemTyped.hpp>
+
+#include "cli/DomainParts.hpp"
+
+QB_CLI_DOMAIN(item)

@@ -1,0 +1,6 @@
+// The tool's part of sharing: its registry entries and its part of the wire reference.
+#include <QBComponentAPI/share/typed/ShareTyped.hpp>
+
+#include "cli/DomainParts.hpp"
+
+QB_CLI_DOMAIN(share)

@@ -1,0 +1,7 @@
+// The tool's part of customer support: its registry entries and its part of the wire reference.
+#include <QBComponentAPI/support/dict/SupportDict.hpp>
+#include <QBComponentAPI/support/typed/SupportTyped.hpp>
+
+#include "cli/DomainParts.hpp"
+
+QB_CLI_DOMAIN(support)

@@ -1,0 +1,7 @@
+// The tool's part of the account domain: its registry entries and its part of the wire reference.
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
+
+#include "cli/DomainParts.hpp"
+
+QB_CLI_DOMAIN(user)
