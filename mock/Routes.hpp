@@ -1,5 +1,6 @@
 // The mock service's routes as the catalogues declare them: one per path, with the parameters a call
-// must carry. Kept apart from the HTTP server so that a change to a record rebuilds only this table.
+// must carry. Kept apart from the HTTP server, and built one domain at a time (mock/routes/), so that a
+// change to a record rebuilds only its domain's part of this table.
 #pragma once
 
 #include <QBComponentAPI/frame/Endpoint.hpp>
@@ -18,5 +19,12 @@ struct Route {
 
 // Every path of the catalogues once, in catalogue order.
 const std::vector<Route>& catalogueRoutes();
+
+// One route per catalogue line of a domain (qb::<domain>::Endpoints), built in mock/routes/.
+template <class Endpoints>
+std::vector<Route> domainRoutes();
+
+// Keeps the keys of `keys` that `other` holds too.
+void keepShared(std::vector<std::string_view>& keys, const std::vector<std::string_view>& other);
 
 }  // namespace qb::mock
