@@ -1,7 +1,5 @@
 #include <QBComponentAPI/frame/JSONEncoder.hpp>
-
 #include <QBComponentAPI/frame/detail/Simdjson.hpp>
-
 
 namespace qb::detail {
 
@@ -12,7 +10,7 @@ void JsonTextSink::writeDouble(double d) {
 
 void JsonTextSink::writeAny(const JsonValue& value) {
   comma();
-  out_ += toJson(value);
+  appendJson(out_, value);
 }
 
 void JsonTextSink::writeQuoted(std::string_view s) {
@@ -26,9 +24,9 @@ void checkWritable(std::string_view text) {
 }
 
 [[noreturn]] void throwMismatch(std::string_view expected, const JsonValue& found) {
-  throw DecodingError(DecodingError::Kind::typeMismatch, {},
-                      "Expected to decode " + std::string(expected) + " but found " +
-                          std::string(describeKind(found)) + " instead.");
+  throw DecodingError(
+      DecodingError::Kind::typeMismatch, {},
+      "Expected to decode " + std::string(expected) + " but found " + std::string(describeKind(found)) + " instead.");
 }
 
 }  // namespace qb::detail

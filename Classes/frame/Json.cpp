@@ -1,11 +1,12 @@
 #include <QBComponentAPI/frame/Json.hpp>
-
 #include <QBComponentAPI/frame/detail/Simdjson.hpp>
-
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/detail/JsonFault.hpp>
@@ -21,13 +22,10 @@ DecodingError parseFailure(simdjson::error_code error) {
   switch (error) {
     case simdjson::DEPTH_ERROR:
       return corrupted("The given data nests deeper than " + std::to_string(kMaxJsonDepth) + " levels.");
-    case simdjson::UTF8_ERROR:
-      return corrupted("The given data is not valid UTF-8.");
+    case simdjson::UTF8_ERROR: return corrupted("The given data is not valid UTF-8.");
     case simdjson::NUMBER_ERROR:
-    case simdjson::NUMBER_OUT_OF_RANGE:
-      return corrupted("The given data holds a number that cannot be represented.");
-    default:
-      return corrupted(std::string("The given data was not valid JSON: ") + simdjson::error_message(error));
+    case simdjson::NUMBER_OUT_OF_RANGE: return corrupted("The given data holds a number that cannot be represented.");
+    default: return corrupted(std::string("The given data was not valid JSON: ") + simdjson::error_message(error));
   }
 }
 
@@ -184,18 +182,87 @@ constexpr std::uint64_t mayNeedEscape(std::uint64_t w) noexcept {
   return ((w - kOnes * 0x20) | (quote - kOnes) | (backslash - kOnes)) & ~w & kHighs;
 }
 
+// Where the first byte below 0x20, quote or backslash of a text is (its size when there is none), and
+// whether the bytes before it are all ASCII. Sixteen bytes at a time, the last sixteen (or the whole
+// text, copied into a block of harmless bytes) read as one block, so that a short text or a tail is
+// not looked at byte by byte.
+struct EscapeScan {
+  std::size_t first;
+  bool ascii;
+};
+
+#if defined(__SSE2__)
+inline int escapeMask(__m128i block) noexcept {
+  const __m128i quote = _mm_cmpeq_epi8(block, _mm_set1_epi8('"'));
+  const __m128i backslash = _mm_cmpeq_epi8(block, _mm_set1_epi8('\\'));
+  const __m128i control = _mm_cmpeq_epi8(_mm_min_epu8(block, _mm_set1_epi8(0x1F)), block);
+  return _mm_movemask_epi8(_mm_or_si128(_mm_or_si128(quote, backslash), control));
+}
+
+EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
+  int high = 0;
+  std::size_t i = 0;
+  for (; i + 16 <= n; i += 16) {
+    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
+    if (const int mask = escapeMask(block)) {
+      const auto at = static_cast<std::size_t>(__builtin_ctz(static_cast<unsigned>(mask)));
+      return {i + at, (high | (_mm_movemask_epi8(block) & ((1 << at) - 1))) == 0};
+    }
+    high |= _mm_movemask_epi8(block);
+  }
+  if (i == n) return {n, high == 0};
+  // The tail: the text's last sixteen bytes when it has that many (those before `i` are known clean),
+  // else the whole text in a block of spaces.
+  alignas(16) char padded[16];
+  const char* from = p + n - 16;
+  std::size_t base = n - 16;
+  if (n < 16) {
+    std::memset(padded, ' ', sizeof padded);
+    std::memcpy(padded, p, n);
+    from = padded;
+    base = 0;
+  }
+  const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+  const int mask = escapeMask(block);
+  const int highs = _mm_movemask_epi8(block);
+  if (mask == 0) return {n, (high | highs) == 0};
+  const auto at = static_cast<std::size_t>(__builtin_ctz(static_cast<unsigned>(mask)));
+  return {base + at, (high | (highs & ((1 << at) - 1))) == 0};
+}
+#else
+EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
+  bool ascii = true;
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto c = static_cast<unsigned char>(p[i]);
+    if (c < 0x20 || c == '"' || c == '\\') return {i, ascii};
+    if (c >= 0x80) ascii = false;
+  }
+  return {n, ascii};
+}
+#endif
+
 }  // namespace
 
 bool appendQuotedJson(std::string& out, std::string_view s) {
   static constexpr char kHex[] = "0123456789abcdef";
-  out.reserve(out.size() + s.size() + 2);
-  out += '"';
-  // One pass, eight bytes at a time: runs that need no escape are copied whole, and the text is
-  // checked as UTF-8 only when it has a byte outside ASCII.
-  bool ascii = true;
-  std::size_t run = 0;  // start of the text not yet copied
-  std::size_t i = 0;
   const std::size_t n = s.size();
+  const EscapeScan scan = scanForEscape(s.data(), n);
+  if (scan.first == n) {
+    // Most texts need no escape: copied whole, checked as UTF-8 only when one of their bytes is not ASCII.
+    if (!scan.ascii && !simdjson::validate_utf8(s.data(), n)) return false;
+    out.reserve(out.size() + n + 2);
+    out += '"';
+    out.append(s.data(), n);
+    out += '"';
+    return true;
+  }
+  out.reserve(out.size() + n + 2);
+  out += '"';
+  // From the first escape on, eight bytes at a time: runs that need no escape are copied whole, and the
+  // text is checked as UTF-8 only when it has a byte outside ASCII.
+  bool ascii = scan.ascii;
+  std::size_t run = 0;  // start of the text not yet copied
+  std::size_t i = scan.first;
   while (i < n) {
     std::size_t end = n;  // bytes up to `end` are looked at one by one
     if (i + 8 <= n) {
@@ -286,21 +353,26 @@ JsonValue parseJson(JsonText json, boost::json::storage_ptr storage) {
 JsonMap parseJsonMap(JsonText bytes, boost::json::storage_ptr storage) {
   JsonValue value = parseJson(bytes, std::move(storage));
   if (!value.is_object()) {
-    throw DecodingError(DecodingError::Kind::typeMismatch, {},
-                        std::string("Expected to decode an object but found ") +
-                            std::string(describeKind(value)) + " instead.");
+    throw DecodingError(
+        DecodingError::Kind::typeMismatch, {},
+        std::string("Expected to decode an object but found ") + std::string(describeKind(value)) + " instead.");
   }
   return std::move(value.get_object());
 }
 
 static EncodingError unwritable() {
-  return EncodingError({}, "The value cannot be written as JSON (a non-finite number, invalid UTF-8 or "
-                           "nesting too deep).");
+  return EncodingError({},
+                       "The value cannot be written as JSON (a non-finite number, invalid UTF-8 or "
+                       "nesting too deep).");
+}
+
+void detail::appendJson(std::string& out, const JsonValue& value) {
+  if (!Writer(out, -1).write(value)) throw unwritable();
 }
 
 std::string toJson(const JsonValue& value) {
   std::string out;
-  if (!Writer(out, -1).write(value)) throw unwritable();
+  detail::appendJson(out, value);
   return out;
 }
 

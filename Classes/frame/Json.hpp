@@ -47,6 +47,9 @@ std::string_view describeKind(const JsonValue& value) noexcept;
 namespace detail {
 /// Appends `text` as a quoted, escaped JSON string; false (nothing useful appended) for invalid UTF-8.
 bool appendQuotedJson(std::string& out, std::string_view text);
+/// Appends the compact JSON text of `value`, as toJson writes it and throwing as it does (with part of the
+/// text then appended).
+void appendJson(std::string& out, const JsonValue& value);
 /// Appends the shortest exact text of `d` (with ".0" for whole numbers); false for a non-finite value.
 bool appendJsonDouble(std::string& out, double d);
 /// Whether `value` can be written as JSON when it sits inside `depth` objects or arrays: every number

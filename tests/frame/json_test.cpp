@@ -1,11 +1,9 @@
-#include <QBComponentAPI/frame/Json.hpp>
-
 #include <gtest/gtest.h>
 
+#include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
 #include <cstdlib>
 #include <random>
-
-#include <QBComponentAPI/frame/Errors.hpp>
 
 namespace qb {
 namespace {
@@ -52,6 +50,51 @@ TEST(Json, BadInputIsDataCorrupted) {
 }
 
 TEST(Json, DuplicateKeysKeepTheLastValue) { EXPECT_EQ(parseJsonMap(R"({"a":1,"a":2})").at("a").as_int64(), 2); }
+
+// The escaper reads texts sixteen and eight bytes at a time, with a last block that overlaps or is padded:
+// an escape, a byte outside ASCII or a bad UTF-8 byte must be found at every position of every length.
+TEST(Json, TextsAreEscapedAndCheckedWhereverTheByteFalls) {
+  const auto reference = [](const std::string& text) {
+    std::string out = "\"";
+    for (const char c : text) {
+      switch (c) {
+        case '"': out += "\\\""; break;
+        case '\\': out += "\\\\"; break;
+        case '\n': out += "\\n"; break;
+        case '\x01': out += "\\u0001"; break;
+        case '\x1f': out += "\\u001f"; break;
+        default: out += c;
+      }
+    }
+    return out + "\"";
+  };
+  for (std::size_t length = 1; length <= 40; ++length) {
+    for (std::size_t at = 0; at < length; ++at) {
+      for (const std::string special : {"\"", "\\", "\n", "\x01", "\x1f", "\xc3\xa9", "\xff"}) {
+        std::string text(length, 'a');
+        text.replace(at, 1, special);
+        SCOPED_TRACE(::testing::Message() << "length " << length << ", at " << at << ", byte "
+                                          << static_cast<int>(static_cast<unsigned char>(special[0])));
+        if (special == "\xff") {
+          EXPECT_THROW(toJson(JsonValue(text)), EncodingError);
+        } else {
+          EXPECT_EQ(toJson(JsonValue(text)), reference(text));
+        }
+      }
+    }
+  }
+  // A bad byte after an escape, and before one, is found as well.
+  for (std::size_t length = 2; length <= 40; ++length) {
+    std::string after(length, 'a'), before(length, 'a');
+    after.front() = '"';
+    after.back() = '\xff';
+    before.front() = '\xff';
+    before.back() = '"';
+    EXPECT_THROW(toJson(JsonValue(after)), EncodingError) << length;
+    EXPECT_THROW(toJson(JsonValue(before)), EncodingError) << length;
+  }
+  EXPECT_EQ(toJson(JsonValue("")), "\"\"");
+}
 
 TEST(Json, PrettyTextIsIndentedAndRefusesWhatIsNotJson) {
   const JsonValue v = parseJson(R"({"a":[1,{"b":"x\ny"}],"c":{},"d":[]})");
