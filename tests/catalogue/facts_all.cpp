@@ -7,22 +7,25 @@ std::span<const qb::test::DomainFacts* const> qb::test::allFacts() {
   return all;
 }
 
+namespace {
+
+// One kind of line of every domain, domain after domain.
+template <class Line>
+std::vector<const Line*> linesOf(std::vector<Line> qb::test::DomainFacts::*lines) {
+  std::vector<const Line*> out;
+  for (const qb::test::DomainFacts* domain : qb::test::allFacts())
+    for (const Line& line : domain->*lines) out.push_back(&line);
+  return out;
+}
+
+}  // namespace
+
 const std::vector<const qb::test::EndpointFacts*>& qb::test::allEndpoints() {
-  static const auto all = [] {
-    std::vector<const EndpointFacts*> out;
-    for (const DomainFacts* domain : allFacts())
-      for (const EndpointFacts& line : domain->endpoints) out.push_back(&line);
-    return out;
-  }();
+  static const auto all = linesOf(&DomainFacts::endpoints);
   return all;
 }
 
 const std::vector<const qb::test::RecordFacts*>& qb::test::allRecords() {
-  static const auto all = [] {
-    std::vector<const RecordFacts*> out;
-    for (const DomainFacts* domain : allFacts())
-      for (const RecordFacts& record : domain->records) out.push_back(&record);
-    return out;
-  }();
+  static const auto all = linesOf(&DomainFacts::records);
   return all;
 }
