@@ -2,7 +2,9 @@
 // names no type, or does not have its type's shape, fails with the face's usual error.
 #include <gtest/gtest.h>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/cms/CmsTagValues.hpp>
+#include <QBComponentAPI/cms/dict/CmsDict.hpp>
+#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 
 #include "cms/Fixtures.hpp"
 

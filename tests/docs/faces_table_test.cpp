@@ -3,7 +3,6 @@
 // table, so that a declaration changed without the table (or the table without a declaration) fails.
 #include <gtest/gtest.h>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
 #include <algorithm>
 #include <fstream>
 #include <map>
@@ -11,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "declarations.hpp"
+#include "catalogue/Facts.hpp"
 
 namespace qb {
 namespace {
@@ -92,27 +91,23 @@ std::map<std::string, Row> declaredRows() {
   const auto add = [&](Row row) {
     if (!row.empty()) rows.emplace(row.dictionary, std::move(row));
   };
-  forEachType(AllRecords{}, [&]<class R>() {
-    using D = typename R::Dictionary;
-    using T = typename R::Typed;
-    if constexpr (hasFace<D> && hasFace<T>) {
-      add(difference(test::className<D>(), test::className<T>(), test::dictionaryKeys<&D::qbFields>(),
-                     test::typedKeys<T>(), test::dictionaryRequiredKeys<&D::qbFields>(), test::typedRequiredKeys<T>()));
+  for (const auto* record : test::allRecords()) {
+    const auto& d = record->dictionary;
+    const auto& t = record->typed;
+    if (d.present && t.present) {
+      add(difference(d.className, t.className, d.keys.all, t.keys.all, d.keys.required, t.keys.required));
     }
-  });
-  forEachType(AllEndpoints{}, [&]<class A>() {
-    using M = typename A::DictionaryMessage;
-    using Q = typename A::TypedRequest;
-    if constexpr (hasFace<M> && hasFace<Q>) {
-      using P = typename Q::Response;
-      const std::string message = test::className<M>();
-      add(difference(message + " parameters", test::className<Q>(), test::dictionaryKeys<&M::qbParams>(),
-                     test::typedKeys<Q>(), test::dictionaryAlwaysSentKeys<&M::qbParams>(),
-                     test::typedRequiredKeys<Q>()));
-      add(difference(message + " reply", test::className<P>(), test::dictionaryKeys<&M::qbResults>(),
-                     test::typedKeys<P>(), {}, {}));
+  }
+  for (const auto* line : test::allEndpoints()) {
+    const auto& m = line->message;
+    const auto& q = line->request;
+    if (m.present && q.present) {
+      add(difference(m.className + " parameters", q.className, m.keys.all, q.keys.all, m.keys.alwaysSent,
+                     q.keys.required));
+      add(difference(m.className + " reply", line->response.className, line->results.keys.all, line->response.keys.all,
+                     {}, {}));
     }
-  });
+  }
   return rows;
 }
 
@@ -180,12 +175,11 @@ TEST(FacesTable, ShowsEveryDifferenceOfKeysTheDeclarationsHave) {
 // The faces table shows no required-ness for replies because the Dictionary face insists on no reply key:
 // a message keeps whatever the reply has. A required result would make that claim wrong.
 TEST(FacesTable, TheDictionaryFaceRequiresNoReplyKey) {
-  forEachType(AllEndpoints{}, [&]<class A>() {
-    using M = typename A::DictionaryMessage;
-    if constexpr (hasFace<M>) {
-      EXPECT_EQ(test::dictionaryRequiredKeys<&M::qbResults>(), std::vector<std::string>{}) << test::className<M>();
+  for (const auto* line : test::allEndpoints()) {
+    if (line->results.present) {
+      EXPECT_EQ(line->results.keys.required, std::vector<std::string>{}) << line->results.className;
     }
-  });
+  }
 }
 
 }  // namespace

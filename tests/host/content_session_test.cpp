@@ -2,8 +2,12 @@
 // against the mock service's seeded catalogue, whose replies must decode cleanly in both faces.
 #include <gtest/gtest.h>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/cms/CmsCatalogue.hpp>
+#include <QBComponentAPI/cms/CmsTagValues.hpp>
+#include <QBComponentAPI/cms/dict/CmsDict.hpp>
+#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
 #include <QBComponentAPI/host/Client.hpp>
+#include <QBComponentAPI/share/ShareCatalogue.hpp>
 #include <map>
 #include <set>
 

@@ -2,8 +2,10 @@
 // service's per-account collection, and every edit read back through get_item_detail.
 #include <gtest/gtest.h>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
 #include <QBComponentAPI/host/Client.hpp>
+#include <QBComponentAPI/item/ItemCatalogue.hpp>
+#include <QBComponentAPI/item/dict/ItemDict.hpp>
+#include <QBComponentAPI/item/typed/ItemTyped.hpp>
 #include <functional>
 #include <map>
 #include <set>

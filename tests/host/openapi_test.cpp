@@ -5,8 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/Catalogues.hpp>
 #include <QBComponentAPI/host/Client.hpp>
+#include <QBComponentAPI/item/typed/ItemListMyCollectionsRequest.hpp>
 #include <cmath>
 #include <functional>
 #include <limits>

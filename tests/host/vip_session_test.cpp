@@ -2,8 +2,11 @@
 // reminder is recorded by the service.
 #include <gtest/gtest.h>
 
-#include <QBComponentAPI/QBComponentAPI.hpp>
 #include <QBComponentAPI/host/Client.hpp>
+#include <QBComponentAPI/user/typed/UserGetUserRequest.hpp>
+#include <QBComponentAPI/user/typed/VipInfoModel.hpp>
+#include <QBComponentAPI/vip/dict/VipDict.hpp>
+#include <QBComponentAPI/vip/typed/VipTyped.hpp>
 
 #include "host/MockSession.hpp"
 

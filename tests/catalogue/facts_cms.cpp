@@ -1,0 +1,11 @@
+// The cms domain's facts for the catalogue tests (see Facts.hpp).
+#include <QBComponentAPI/cms/CmsCatalogue.hpp>
+#include <QBComponentAPI/cms/dict/CmsDict.hpp>
+#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
+
+#include "catalogue/FactsOf.hpp"
+
+const qb::test::DomainFacts& qb::test::cmsFacts() {
+  static const DomainFacts facts = factsOf("cms", cms::Endpoints{}, cms::Records{}, cms::kClassNames);
+  return facts;
+}

@@ -1,0 +1,11 @@
+// The support domain's facts for the catalogue tests (see Facts.hpp).
+#include <QBComponentAPI/support/SupportCatalogue.hpp>
+#include <QBComponentAPI/support/dict/SupportDict.hpp>
+#include <QBComponentAPI/support/typed/SupportTyped.hpp>
+
+#include "catalogue/FactsOf.hpp"
+
+const qb::test::DomainFacts& qb::test::supportFacts() {
+  static const DomainFacts facts = factsOf("support", support::Endpoints{}, support::Records{}, support::kClassNames);
+  return facts;
+}

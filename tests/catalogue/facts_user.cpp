@@ -1,0 +1,11 @@
+// The user domain's facts for the catalogue tests (see Facts.hpp).
+#include <QBComponentAPI/user/UserCatalogue.hpp>
+#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/typed/UserTyped.hpp>
+
+#include "catalogue/FactsOf.hpp"
+
+const qb::test::DomainFacts& qb::test::userFacts() {
+  static const DomainFacts facts = factsOf("user", user::Endpoints{}, user::Records{}, user::kClassNames);
+  return facts;
+}
