@@ -1,12 +1,11 @@
 // qb::JSONEncoder: Typed-face records to compact JSON text.
 #pragma once
 
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/detail/TypedCodec.hpp>
 #include <charconv>
 #include <string>
 #include <vector>
-
-#include <QBComponentAPI/frame/Json.hpp>
-#include <QBComponentAPI/frame/detail/TypedCodec.hpp>
 
 namespace qb {
 
@@ -41,6 +40,12 @@ class JsonTextSink {
     comma();
     writeQuoted(name);
     out_ += ':';
+    afterKey_ = true;
+  }
+  /// A key that needs no escape, given with its quotes and colon.
+  void quotedKey(std::string_view text) {
+    comma();
+    out_ += text;
     afterKey_ = true;
   }
   void writeNull() {

@@ -182,14 +182,42 @@ constexpr std::uint64_t mayNeedEscape(std::uint64_t w) noexcept {
   return ((w - kOnes * 0x20) | (quote - kOnes) | (backslash - kOnes)) & ~w & kHighs;
 }
 
-// Where the first byte below 0x20, quote or backslash of a text is (its size when there is none), and
-// whether the bytes before it are all ASCII. Sixteen bytes at a time, the last sixteen (or the whole
-// text, copied into a block of harmless bytes) read as one block, so that a short text or a tail is
-// not looked at byte by byte.
+// Where the first byte below 0x20, quote or backslash of a text may be (its size when there is surely
+// none), and whether the bytes before that are all ASCII. `first` may fall short of the true first such
+// byte and `ascii` may be false for ASCII bytes: the caller then looks byte by byte from `first` and checks
+// the text as UTF-8, which decides.
 struct EscapeScan {
   std::size_t first;
   bool ascii;
 };
+
+// A text of under sixteen bytes, read as two overlapping words straight from where it lies (a copy into a
+// block and a wide load of it would stall on the store).
+EscapeScan scanShortForEscape(const char* p, std::size_t n) noexcept {
+  if (n >= 8) {
+    std::uint64_t head, tail;
+    std::memcpy(&head, p, 8);
+    std::memcpy(&tail, p + n - 8, 8);
+    if (mayNeedEscape(head) != 0) return {0, true};
+    if (mayNeedEscape(tail) != 0) return {n - 8, (head & kHighs) == 0};
+    return {n, ((head | tail) & kHighs) == 0};
+  }
+  if (n >= 4) {
+    std::uint32_t head, tail;
+    std::memcpy(&head, p, 4);
+    std::memcpy(&tail, p + n - 4, 4);
+    const std::uint64_t w = head | (std::uint64_t{tail} << 32);
+    if (mayNeedEscape(w) != 0) return {0, true};
+    return {n, (w & kHighs) == 0};
+  }
+  bool ascii = true;
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto c = static_cast<unsigned char>(p[i]);
+    if (c < 0x20 || c == '"' || c == '\\') return {i, ascii};
+    if (c >= 0x80) ascii = false;
+  }
+  return {n, ascii};
+}
 
 #if defined(__SSE2__)
 inline int escapeMask(__m128i block) noexcept {
@@ -199,45 +227,36 @@ inline int escapeMask(__m128i block) noexcept {
   return _mm_movemask_epi8(_mm_or_si128(_mm_or_si128(quote, backslash), control));
 }
 
+// Sixteen bytes at a time, the last sixteen read as one block (those already seen are known clean).
 EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
+  if (n < 16) return scanShortForEscape(p, n);
   int high = 0;
-  std::size_t i = 0;
-  for (; i + 16 <= n; i += 16) {
-    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + i));
+  for (std::size_t i = 0;; i += 16) {
+    const bool last = i + 16 >= n;
+    const std::size_t base = last ? n - 16 : i;
+    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + base));
+    const int highs = _mm_movemask_epi8(block);
     if (const int mask = escapeMask(block)) {
-      const auto at = static_cast<std::size_t>(__builtin_ctz(static_cast<unsigned>(mask)));
-      return {i + at, (high | (_mm_movemask_epi8(block) & ((1 << at) - 1))) == 0};
+      const auto at = static_cast<unsigned>(__builtin_ctz(static_cast<unsigned>(mask)));
+      return {base + at, (high | (highs & ((1 << at) - 1))) == 0};
     }
-    high |= _mm_movemask_epi8(block);
+    high |= highs;
+    if (last) return {n, high == 0};
   }
-  if (i == n) return {n, high == 0};
-  // The tail: the text's last sixteen bytes when it has that many (those before `i` are known clean),
-  // else the whole text in a block of spaces.
-  alignas(16) char padded[16];
-  const char* from = p + n - 16;
-  std::size_t base = n - 16;
-  if (n < 16) {
-    std::memset(padded, ' ', sizeof padded);
-    std::memcpy(padded, p, n);
-    from = padded;
-    base = 0;
-  }
-  const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
-  const int mask = escapeMask(block);
-  const int highs = _mm_movemask_epi8(block);
-  if (mask == 0) return {n, (high | highs) == 0};
-  const auto at = static_cast<std::size_t>(__builtin_ctz(static_cast<unsigned>(mask)));
-  return {base + at, (high | (highs & ((1 << at) - 1))) == 0};
 }
 #else
 EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
+  std::size_t i = 0;
   bool ascii = true;
-  for (std::size_t i = 0; i < n; ++i) {
-    const auto c = static_cast<unsigned char>(p[i]);
-    if (c < 0x20 || c == '"' || c == '\\') return {i, ascii};
-    if (c >= 0x80) ascii = false;
+  for (; i + 16 <= n; i += 16) {
+    std::uint64_t head, tail;
+    std::memcpy(&head, p + i, 8);
+    std::memcpy(&tail, p + i + 8, 8);
+    if (mayNeedEscape(head) != 0 || mayNeedEscape(tail) != 0) return {i, ascii};
+    ascii = ascii && ((head | tail) & kHighs) == 0;
   }
-  return {n, ascii};
+  EscapeScan rest = scanShortForEscape(p + i, n - i);
+  return {i + rest.first, ascii && rest.ascii};
 }
 #endif
 

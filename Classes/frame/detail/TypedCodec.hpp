@@ -18,24 +18,32 @@
 // Its read functions throw DecodingError (typeMismatch, empty path) for a value of the wrong kind.
 #pragma once
 
-#include <cmath>
-
 #include <QBComponentAPI/frame/Codable.hpp>
 #include <QBComponentAPI/frame/Errors.hpp>
+#include <cmath>
 
 namespace qb::detail {
 
 template <class T>
 constexpr std::string_view typeName() {
-  if constexpr (std::is_same_v<T, bool>) return "Bool";
-  else if constexpr (std::is_same_v<T, std::int64_t>) return "Int64";
-  else if constexpr (std::is_same_v<T, double>) return "Double";
-  else if constexpr (std::is_same_v<T, std::string>) return "String";
-  else if constexpr (std::is_same_v<T, Date>) return "Date";
-  else if constexpr (std::is_same_v<T, AnyCodable>) return "AnyCodable";
-  else if constexpr (APIEnumrable<T>) return EnumTraits<T>::name;
-  else if constexpr (IsVector<T>::value) return "Array";
-  else return "Dictionary";
+  if constexpr (std::is_same_v<T, bool>)
+    return "Bool";
+  else if constexpr (std::is_same_v<T, std::int64_t>)
+    return "Int64";
+  else if constexpr (std::is_same_v<T, double>)
+    return "Double";
+  else if constexpr (std::is_same_v<T, std::string>)
+    return "String";
+  else if constexpr (std::is_same_v<T, Date>)
+    return "Date";
+  else if constexpr (std::is_same_v<T, AnyCodable>)
+    return "AnyCodable";
+  else if constexpr (APIEnumrable<T>)
+    return EnumTraits<T>::name;
+  else if constexpr (IsVector<T>::value)
+    return "Array";
+  else
+    return "Dictionary";
 }
 
 [[noreturn]] inline void throwValueNotFound(std::string_view type) {
@@ -63,7 +71,9 @@ void decodeRecord(N& node, T& out);
 /// = true` and is spared the coding paths and the null checks of required members (a null fails the
 /// member's read anyway).
 template <class N>
-concept RetryingNode = requires { requires N::kFailuresAreRetried; };
+concept RetryingNode = requires {
+  requires N::kFailuresAreRetried;
+};
 
 /// Runs decode(); a DecodingError leaves it with element() in front of its coding path.
 template <class N, class Decode, class Element>
@@ -154,27 +164,30 @@ template <class N, class T>
 void decodeRecord(N& node, T& out) {
   if constexpr (OrderedNode<N>) {
     node.expectObject();
-    std::apply([&](const auto&... k) {
-      [[maybe_unused]] auto one = [&](const auto& key) {
-        using M = typename std::remove_cvref_t<decltype(key)>::Member;
-        if constexpr (std::remove_cvref_t<decltype(key)>::isFile) return;
-        else {
-          withinPath<N>(
-              [&] {
-                std::optional<N> child = node.find(key.name);
-                if (child) {
-                  decodeMember(*child, out.*key.member);
-                } else if constexpr (IsOptional<M>::value) {
-                  (out.*key.member).reset();
-                } else {
-                  throwKeyNotFound(key.name);
-                }
-              },
-              [&] { return CodingPathElement(std::string(key.name)); });
-        }
-      };
-      (one(k), ...);
-    }, T::codingKeys);
+    std::apply(
+        [&](const auto&... k) {
+          [[maybe_unused]] auto one = [&](const auto& key) {
+            using M = typename std::remove_cvref_t<decltype(key)>::Member;
+            if constexpr (std::remove_cvref_t<decltype(key)>::isFile)
+              return;
+            else {
+              withinPath<N>(
+                  [&] {
+                    std::optional<N> child = node.find(key.name);
+                    if (child) {
+                      decodeMember(*child, out.*key.member);
+                    } else if constexpr (IsOptional<M>::value) {
+                      (out.*key.member).reset();
+                    } else {
+                      throwKeyNotFound(key.name);
+                    }
+                  },
+                  [&] { return CodingPathElement(std::string(key.name)); });
+            }
+          };
+          (one(k), ...);
+        },
+        T::codingKeys);
   } else {
     std::uint64_t seen = 0;
     node.template forEachKnownField<T>([&](int index, const auto& key, N& child) {
@@ -185,21 +198,23 @@ void decodeRecord(N& node, T& out) {
       seen |= std::uint64_t{1} << index;
     });
     std::size_t index = 0;
-    std::apply([&](const auto&... k) {
-      [[maybe_unused]] auto one = [&](const auto& key) {
-        using M = typename std::remove_cvref_t<decltype(key)>::Member;
-        if (!(seen & (std::uint64_t{1} << index))) {
-          if constexpr (IsOptional<M>::value) {
-            (out.*key.member).reset();
-          } else if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
-            throw DecodingError(DecodingError::Kind::keyNotFound, {std::string(key.name)},
-                                "No value associated with key \"" + std::string(key.name) + "\".");
-          }
-        }
-        ++index;
-      };
-      (one(k), ...);
-    }, T::codingKeys);
+    std::apply(
+        [&](const auto&... k) {
+          [[maybe_unused]] auto one = [&](const auto& key) {
+            using M = typename std::remove_cvref_t<decltype(key)>::Member;
+            if (!(seen & (std::uint64_t{1} << index))) {
+              if constexpr (IsOptional<M>::value) {
+                (out.*key.member).reset();
+              } else if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
+                throw DecodingError(DecodingError::Kind::keyNotFound, {std::string(key.name)},
+                                    "No value associated with key \"" + std::string(key.name) + "\".");
+              }
+            }
+            ++index;
+          };
+          (one(k), ...);
+        },
+        T::codingKeys);
   }
 }
 
@@ -214,18 +229,68 @@ template <class E>
                               ", which is none of its cases.");
 }
 
+// A record's keys as a text sink writes them, `"name":` one after the other, made when compiling; `plain`
+// when no key needs an escape, so that the text can be copied as it is.
+template <class T>
+struct QuotedKeyNames {
+  static constexpr auto& names = CodingKeyNames<T>::names;
+  static constexpr bool plain = [] {
+    for (std::string_view name : names) {
+      for (char c : name) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20 || byte >= 0x80 || c == '"' || c == '\\') return false;
+      }
+    }
+    return true;
+  }();
+  static constexpr std::size_t size = [] {
+    std::size_t total = 0;
+    for (std::string_view name : names) total += name.size() + 3;
+    return total;
+  }();
+  static constexpr std::array<char, size + 1> text = [] {
+    std::array<char, size + 1> out{};
+    std::size_t at = 0;
+    for (std::string_view name : names) {
+      out[at++] = '"';
+      for (char c : name) out[at++] = c;
+      out[at++] = '"';
+      out[at++] = ':';
+    }
+    return out;
+  }();
+  static constexpr std::array<std::size_t, keyCount<T> + 1> offsets = [] {
+    std::array<std::size_t, keyCount<T> + 1> out{};
+    for (std::size_t i = 0; i < keyCount<T>; ++i) out[i + 1] = out[i] + names[i].size() + 3;
+    return out;
+  }();
+  static constexpr std::string_view quoted(std::size_t i) {
+    return {text.data() + offsets[i], offsets[i + 1] - offsets[i]};
+  }
+};
+
+// A sink that takes a key already quoted and followed by its colon.
+template <class S>
+concept QuotedKeySink = requires(S& sink, std::string_view text) {
+  sink.quotedKey(text);
+};
+
 template <class S, class T>
 void encodeRecord(S& sink, const T& record) {
   sink.beginObject();
-  std::apply([&](const auto&... k) {
-    [[maybe_unused]] auto one = [&](const auto& key) {
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    [[maybe_unused]] auto one = [&](const auto& key, auto index) {
       using M = typename std::remove_cvref_t<decltype(key)>::Member;
       if constexpr (!std::remove_cvref_t<decltype(key)>::isFile) {
         const M& member = record.*key.member;
         if constexpr (IsOptional<M>::value) {
           if (!member) return;
         }
-        sink.key(key.name);
+        if constexpr (QuotedKeySink<S> && QuotedKeyNames<T>::plain) {
+          sink.quotedKey(QuotedKeyNames<T>::quoted(decltype(index)::value));
+        } else {
+          sink.key(key.name);
+        }
         try {
           if constexpr (IsOptional<M>::value) {
             encodeValue(sink, *member);
@@ -237,8 +302,9 @@ void encodeRecord(S& sink, const T& record) {
         }
       }
     };
-    (one(k), ...);
-  }, T::codingKeys);
+    (one(std::get<I>(T::codingKeys), std::integral_constant<std::size_t, I>{}), ...);
+  }
+  (std::make_index_sequence<keyCount<T>>{});
   sink.endObject();
 }
 
