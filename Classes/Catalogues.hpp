@@ -1,6 +1,6 @@
 // Every domain's catalogue together: all endpoints and all records of the library, for tools that list
-// or walk them (see frame/Catalogue.hpp). The face classes named here are only declared; include the
-// umbrella header <QBComponentAPI/QBComponentAPI.hpp> to use them.
+// or walk them (see frame/Catalogue.hpp). The face classes named here are only declared; include a
+// domain's header (<QBComponentAPI/user/User.hpp>) or the umbrella header to use them.
 #pragma once
 
 #include <span>

@@ -18,18 +18,9 @@
 #include <QBComponentAPI/frame/Protocols.hpp>
 #include <QBComponentAPI/frame/QBMessageBase.hpp>
 
-#include <QBComponentAPI/cms/CmsTagValues.hpp>
-#include <QBComponentAPI/cms/dict/CmsDict.hpp>
-#include <QBComponentAPI/cms/enums/CmsEnums.hpp>
-#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
-#include <QBComponentAPI/item/dict/ItemDict.hpp>
-#include <QBComponentAPI/item/typed/ItemTyped.hpp>
-#include <QBComponentAPI/share/typed/ShareTyped.hpp>
-#include <QBComponentAPI/support/dict/SupportDict.hpp>
-#include <QBComponentAPI/support/enums/SupportEnums.hpp>
-#include <QBComponentAPI/support/typed/SupportTyped.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/enums/UserEnums.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
-#include <QBComponentAPI/vip/dict/VipDict.hpp>
-#include <QBComponentAPI/vip/typed/VipTyped.hpp>
+#include <QBComponentAPI/cms/Cms.hpp>
+#include <QBComponentAPI/item/Item.hpp>
+#include <QBComponentAPI/share/Share.hpp>
+#include <QBComponentAPI/support/Support.hpp>
+#include <QBComponentAPI/user/User.hpp>
+#include <QBComponentAPI/vip/Vip.hpp>

@@ -1,11 +1,12 @@
 // Walks the get_config call through both faces, printing what a host would send and what it decoded.
 // The reply is a canned one here; examples using a real host live beside this file.
-#include <QBComponentAPI/QBComponentAPI.hpp>
+#include <QBComponentAPI/frame/JSONDecoder.hpp>
+#include <QBComponentAPI/frame/JSONEncoder.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
 #include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
 #include <QBComponentAPI/user/dict/QBAPILegalConfig.hpp>
 #include <QBComponentAPI/user/dict/QBUserGetConfigMessage.hpp>
 #include <QBComponentAPI/user/typed/UserGetConfigRequest.hpp>
-
 #include <iostream>
 
 namespace {
@@ -22,8 +23,8 @@ const char* const kReply = R"({
   "other_configs": {"feature_x": true, "rollout": 0.25, "big_id": 9007199254740993}
 })";
 
-void printRequest(std::string_view face, std::string_view api, const std::vector<std::string>& methods,
-                  bool needAuth, bool mustAuth, std::string_view params) {
+void printRequest(std::string_view face, std::string_view api, const std::vector<std::string>& methods, bool needAuth,
+                  bool mustAuth, std::string_view params) {
   std::cout << "[" << face << "] " << methods.front() << " " << api << "  needAuth=" << needAuth
             << " mustAuth=" << mustAuth << "\n  params: " << params << "\n";
 }

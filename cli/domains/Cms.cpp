@@ -1,6 +1,5 @@
 // The tool's part of the content catalogue: its registry entries and its part of the wire reference.
-#include <QBComponentAPI/cms/dict/CmsDict.hpp>
-#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
+#include <QBComponentAPI/cms/Cms.hpp>
 
 #include "cli/DomainParts.hpp"
 

@@ -1,6 +1,5 @@
 // The tool's part of the collection of identified items: its registry entries and its part of the wire reference.
-#include <QBComponentAPI/item/dict/ItemDict.hpp>
-#include <QBComponentAPI/item/typed/ItemTyped.hpp>
+#include <QBComponentAPI/item/Item.hpp>
 
 #include "cli/DomainParts.hpp"
 

@@ -1,5 +1,5 @@
 // The tool's part of sharing: its registry entries and its part of the wire reference.
-#include <QBComponentAPI/share/typed/ShareTyped.hpp>
+#include <QBComponentAPI/share/Share.hpp>
 
 #include "cli/DomainParts.hpp"
 

@@ -1,6 +1,5 @@
 // The tool's part of customer support: its registry entries and its part of the wire reference.
-#include <QBComponentAPI/support/dict/SupportDict.hpp>
-#include <QBComponentAPI/support/typed/SupportTyped.hpp>
+#include <QBComponentAPI/support/Support.hpp>
 
 #include "cli/DomainParts.hpp"
 

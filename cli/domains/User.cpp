@@ -1,6 +1,5 @@
 // The tool's part of the account domain: its registry entries and its part of the wire reference.
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/User.hpp>
 
 #include "cli/DomainParts.hpp"
 

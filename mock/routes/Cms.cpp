@@ -1,6 +1,5 @@
 // The mock service's routes of the content catalogue.
-#include <QBComponentAPI/cms/dict/CmsDict.hpp>
-#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
+#include <QBComponentAPI/cms/Cms.hpp>
 
 #include "mock/RouteParts.hpp"
 

@@ -1,6 +1,5 @@
 // The mock service's routes of the collection of identified items.
-#include <QBComponentAPI/item/dict/ItemDict.hpp>
-#include <QBComponentAPI/item/typed/ItemTyped.hpp>
+#include <QBComponentAPI/item/Item.hpp>
 
 #include "mock/RouteParts.hpp"
 

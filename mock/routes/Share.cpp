@@ -1,5 +1,5 @@
 // The mock service's routes of sharing.
-#include <QBComponentAPI/share/typed/ShareTyped.hpp>
+#include <QBComponentAPI/share/Share.hpp>
 
 #include "mock/RouteParts.hpp"
 

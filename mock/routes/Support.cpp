@@ -1,6 +1,5 @@
 // The mock service's routes of customer support.
-#include <QBComponentAPI/support/dict/SupportDict.hpp>
-#include <QBComponentAPI/support/typed/SupportTyped.hpp>
+#include <QBComponentAPI/support/Support.hpp>
 
 #include "mock/RouteParts.hpp"
 

@@ -1,6 +1,5 @@
 // The mock service's routes of the account domain.
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/User.hpp>
 
 #include "mock/RouteParts.hpp"
 

@@ -1,6 +1,5 @@
 // The mock service's routes of the subscription status.
-#include <QBComponentAPI/vip/dict/VipDict.hpp>
-#include <QBComponentAPI/vip/typed/VipTyped.hpp>
+#include <QBComponentAPI/vip/Vip.hpp>
 
 #include "mock/RouteParts.hpp"
 

@@ -1,7 +1,5 @@
 // The cms domain's facts for the catalogue tests (see Facts.hpp).
-#include <QBComponentAPI/cms/CmsCatalogue.hpp>
-#include <QBComponentAPI/cms/dict/CmsDict.hpp>
-#include <QBComponentAPI/cms/typed/CmsTyped.hpp>
+#include <QBComponentAPI/cms/Cms.hpp>
 
 #include "catalogue/FactsOf.hpp"
 

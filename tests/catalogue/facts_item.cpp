@@ -1,7 +1,5 @@
 // The item domain's facts for the catalogue tests (see Facts.hpp).
-#include <QBComponentAPI/item/ItemCatalogue.hpp>
-#include <QBComponentAPI/item/dict/ItemDict.hpp>
-#include <QBComponentAPI/item/typed/ItemTyped.hpp>
+#include <QBComponentAPI/item/Item.hpp>
 
 #include "catalogue/FactsOf.hpp"
 

@@ -1,6 +1,5 @@
 // The share domain's facts for the catalogue tests (see Facts.hpp).
-#include <QBComponentAPI/share/ShareCatalogue.hpp>
-#include <QBComponentAPI/share/typed/ShareTyped.hpp>
+#include <QBComponentAPI/share/Share.hpp>
 
 #include "catalogue/FactsOf.hpp"
 

@@ -1,7 +1,5 @@
 // The support domain's facts for the catalogue tests (see Facts.hpp).
-#include <QBComponentAPI/support/SupportCatalogue.hpp>
-#include <QBComponentAPI/support/dict/SupportDict.hpp>
-#include <QBComponentAPI/support/typed/SupportTyped.hpp>
+#include <QBComponentAPI/support/Support.hpp>
 
 #include "catalogue/FactsOf.hpp"
 

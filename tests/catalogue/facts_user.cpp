@@ -1,7 +1,5 @@
 // The user domain's facts for the catalogue tests (see Facts.hpp).
-#include <QBComponentAPI/user/UserCatalogue.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/User.hpp>
 
 #include "catalogue/FactsOf.hpp"
 

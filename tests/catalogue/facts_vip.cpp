@@ -1,7 +1,5 @@
 // The vip domain's facts for the catalogue tests (see Facts.hpp).
-#include <QBComponentAPI/vip/VipCatalogue.hpp>
-#include <QBComponentAPI/vip/dict/VipDict.hpp>
-#include <QBComponentAPI/vip/typed/VipTyped.hpp>
+#include <QBComponentAPI/vip/Vip.hpp>
 
 #include "catalogue/FactsOf.hpp"
 
