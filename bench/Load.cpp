@@ -106,7 +106,7 @@ int main(int argc, char** argv) {
                                       .contentType = "application/json",
                                       .body = "{\"count\": " + std::to_string(kFaqEntries) + "}"});
     if (set.status != 200) {
-      std::fprintf(stderr, "qb_load: the mock refused the FAQ size: %s\n", set.body.c_str());
+      std::fprintf(stderr, "qb_load: the mock refused the FAQ size: %s\n", set.body.str().c_str());
       return 1;
     }
   }
