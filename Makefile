@@ -11,7 +11,7 @@ DEBIAN_PACKAGES := cmake ninja-build g++ clang libclang-rt-14-dev ccache pkg-con
 # The API reference's tools, installed by `make docs` only: the browser is large and nothing else needs it.
 DOCS_PACKAGES := doxygen chromium
 
-.PHONY: deps node-deps build test demo package openapi clang asan tsan bench fuzz docs format clean
+.PHONY: deps node-deps build test demo package openapi clang asan tsan bench bench-smoke fuzz docs format clean
 
 # Installs only those of the given Debian packages that are missing; quick and silent when all are there.
 define install_missing
@@ -86,6 +86,15 @@ bench: deps
 	  --benchmark_out=build/bench/results.json --benchmark_out_format=json
 	python3 bench/report.py build/bench/results.json
 	build/bench/bench/qb_load $(LOAD_CALLS)
+
+# CI's check that the benchmarks still build and run: a few small replies through every peer, then a
+# short load run. No figure from it means anything.
+bench-smoke: deps
+	cmake --preset bench
+	cmake --build --preset bench -j $(JOBS)
+	build/bench/bench/qb_bench --benchmark_min_time=0.01 \
+	  --benchmark_filter='/(get_config|get_cms_name|list_my_collections/20)$$'
+	build/bench/bench/qb_load 200
 
 FUZZ_SECONDS ?= 20
 fuzz: deps
