@@ -1,9 +1,15 @@
 #include "cli/Demo.hpp"
 
 #include <QBComponentAPI/host/Collection.hpp>
-#include <QBComponentAPI/item/typed/ItemTyped.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/item/typed/SimpleItemModel.hpp>
+#include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
+#include <QBComponentAPI/user/dict/QBAPIUser.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserInitialiseMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserUpdateMessage.hpp>
+#include <QBComponentAPI/user/typed/UserDeleteAccountRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetUserRequest.hpp>
 #include <cstdio>
 #include <iostream>
 #include <string>

@@ -1,16 +1,17 @@
 // The one error family, and where a malformed reply goes wrong.
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <random>
-
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/JSONEncoder.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
 #include <QBComponentAPI/frame/detail/JsonFault.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
+#include <QBComponentAPI/user/dict/QBAPIAutoUpdate.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
+#include <QBComponentAPI/user/typed/FaqModel.hpp>
 #include <QBComponentAPI/user/typed/UserGetConfigResponse.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/typed/UserGetFaqResponse.hpp>
+#include <functional>
+#include <random>
 
 namespace qb {
 namespace {

@@ -1,13 +1,22 @@
 // Replies that are wrong, truncated or hostile: each has one defined outcome in both faces.
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
 #include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include <QBComponentAPI/frame/detail/JSONDecoderImpl.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
+#include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserUpdateDeviceInfoMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserUpdateUserPropertiesMessage.hpp>
+#include <QBComponentAPI/user/typed/FaqModel.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigResponse.hpp>
+#include <QBComponentAPI/user/typed/UserGetFaqRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetFaqResponse.hpp>
+#include <QBComponentAPI/user/typed/UserUpdateDeviceInfoRequest.hpp>
+#include <QBComponentAPI/user/typed/UserUpdateRequest.hpp>
+#include <QBComponentAPI/user/typed/VipInfoModel.hpp>
+#include <cmath>
 
 namespace qb {
 namespace {

@@ -4,8 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QBComponentAPI/host/Client.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/dict/QBUserDeleteAccountMessage.hpp>
+#include <QBComponentAPI/user/typed/UserDeleteAccountRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetFaqRequest.hpp>
+#include <QBComponentAPI/user/typed/UserInitialiseRequest.hpp>
 #include <climits>
 #include <functional>
 #include <thread>

@@ -4,7 +4,7 @@
 
 #include <QBComponentAPI/host/Client.hpp>
 #include <QBComponentAPI/host/mocks/MockTransport.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigRequest.hpp>
 #include <functional>
 
 #include "host/FaultServer.hpp"

@@ -4,8 +4,20 @@
 
 #include <QBComponentAPI/host/Client.hpp>
 #include <QBComponentAPI/host/mocks/MockTransport.hpp>
-#include <QBComponentAPI/user/dict/UserDict.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/dict/QBAPIDeviceInfo.hpp>
+#include <QBComponentAPI/user/dict/QBAPILoginInfo.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetConfigMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetFaqMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserGetUserMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserInitialiseMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserLoginOrCreateMessage.hpp>
+#include <QBComponentAPI/user/dict/QBUserUpdateMessage.hpp>
+#include <QBComponentAPI/user/typed/UserDeleteAccountRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetConfigRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetFaqRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetUserRequest.hpp>
+#include <QBComponentAPI/user/typed/UserUpdateRequest.hpp>
+#include <QBComponentAPI/user/typed/UserUpdateUserPropertiesRequest.hpp>
 
 #include "cli/Registry.hpp"
 #include "host/FaultServer.hpp"

@@ -5,7 +5,8 @@
 #include <QBComponentAPI/host/Client.hpp>
 #include <QBComponentAPI/support/dict/SupportDict.hpp>
 #include <QBComponentAPI/support/typed/SupportTyped.hpp>
-#include <QBComponentAPI/user/typed/UserTyped.hpp>
+#include <QBComponentAPI/user/typed/UserDeleteAccountRequest.hpp>
+#include <QBComponentAPI/user/typed/UserGetUserRequest.hpp>
 #include <map>
 #include <set>
 
