@@ -191,6 +191,7 @@ struct EscapeScan {
   bool ascii;
 };
 
+#if defined(__SSE2__)
 // A text of under sixteen bytes, read as two overlapping words straight from where it lies (a copy into a
 // block and a wide load of it would stall on the store).
 EscapeScan scanShortForEscape(const char* p, std::size_t n) noexcept {
@@ -219,7 +220,6 @@ EscapeScan scanShortForEscape(const char* p, std::size_t n) noexcept {
   return {n, ascii};
 }
 
-#if defined(__SSE2__)
 inline int escapeMask(__m128i block) noexcept {
   const __m128i quote = _mm_cmpeq_epi8(block, _mm_set1_epi8('"'));
   const __m128i backslash = _mm_cmpeq_epi8(block, _mm_set1_epi8('\\'));
@@ -245,19 +245,8 @@ EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
   }
 }
 #else
-EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
-  std::size_t i = 0;
-  bool ascii = true;
-  for (; i + 16 <= n; i += 16) {
-    std::uint64_t head, tail;
-    std::memcpy(&head, p + i, 8);
-    std::memcpy(&tail, p + i + 8, 8);
-    if (mayNeedEscape(head) != 0 || mayNeedEscape(tail) != 0) return {i, ascii};
-    ascii = ascii && ((head | tail) & kHighs) == 0;
-  }
-  EscapeScan rest = scanShortForEscape(p + i, n - i);
-  return {i + rest.first, ascii && rest.ascii};
-}
+// Without SSE2 the word loop of appendQuotedJson reads the whole text.
+EscapeScan scanForEscape(const char*, std::size_t) noexcept { return {0, false}; }
 #endif
 
 }  // namespace
@@ -266,17 +255,15 @@ bool appendQuotedJson(std::string& out, std::string_view s) {
   static constexpr char kHex[] = "0123456789abcdef";
   const std::size_t n = s.size();
   const EscapeScan scan = scanForEscape(s.data(), n);
+  out.reserve(out.size() + n + 2);
+  out += '"';
   if (scan.first == n) {
     // Most texts need no escape: copied whole, checked as UTF-8 only when one of their bytes is not ASCII.
     if (!scan.ascii && !simdjson::validate_utf8(s.data(), n)) return false;
-    out.reserve(out.size() + n + 2);
-    out += '"';
     out.append(s.data(), n);
     out += '"';
     return true;
   }
-  out.reserve(out.size() + n + 2);
-  out += '"';
   // From the first escape on, eight bytes at a time: runs that need no escape are copied whole, and the
   // text is checked as UTF-8 only when it has a byte outside ASCII.
   bool ascii = scan.ascii;
