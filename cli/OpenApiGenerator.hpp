@@ -30,42 +30,13 @@ struct RecordNames {
 // Each record's class names, in the order of AllRecords. A domain's kClassNames lists the classes of its
 // endpoint lines first, then those of its record lines, each in line order, a line with both faces giving
 // the Dictionary-face name before the Typed-face one.
-inline std::vector<RecordNames> recordNames() {
-  std::vector<std::string_view> flat;
-  for (std::size_t d = 0; d < std::size(kCatalogueClassNames); ++d) {
-    std::size_t endpointClasses = 0;
-    for (const EndpointNames& line : kCatalogueEndpointNames[d]) {
-      endpointClasses += (line.message.empty() ? 0 : 1) + (line.request.empty() ? 0 : 1);
-    }
-    const auto records = kCatalogueClassNames[d].subspan(endpointClasses);
-    flat.insert(flat.end(), records.begin(), records.end());
-  }
-  std::vector<RecordNames> out;
-  std::size_t at = 0;
-  forEachType(AllRecords{}, [&]<class R>() {
-    RecordNames names;
-    if constexpr (hasFace<typename R::Dictionary>) names.dictionary = flat.at(at++);
-    if constexpr (hasFace<typename R::Typed>) names.typed = flat.at(at++);
-    out.push_back(names);
-  });
-  if (at != flat.size()) throw std::logic_error("the catalogues name more records than they list");
-  return out;
-}
+std::vector<RecordNames> recordNames();
 
 // The catalogue line of an endpoint.
-inline const EndpointNames& endpointNames(const Endpoint& endpoint) {
-  for (const auto domain : kCatalogueEndpointNames) {
-    for (const EndpointNames& line : domain) {
-      if (line.endpoint == &endpoint) return line;
-    }
-  }
-  throw std::logic_error("no catalogue line for " + std::string(endpoint.path));
-}
+const EndpointNames& endpointNames(const Endpoint& endpoint);
 
 // A request's response lives beside it under the same name with "Response" for "Request".
-inline std::string responseName(std::string_view request) {
-  return std::string(request.substr(0, request.size() - std::string_view("Request").size())) + "Response";
-}
+std::string responseName(std::string_view request);
 
 // The index in AllRecords of the record whose face class (Dictionary or Typed, by `typed`) is T, or kNone.
 template <class T, bool typed, class... R>
@@ -92,49 +63,25 @@ struct At<0, TypeList<First, Rest...>> {
 
 // --- Schemas --------------------------------------------------------------------------------------------
 
-inline JsonValue ref(std::string_view name) { return JsonMap{{"$ref", "#/components/schemas/" + std::string(name)}}; }
+JsonValue ref(std::string_view name);
 
-inline JsonValue typeSchema(std::string_view type) { return JsonMap{{"type", type}}; }
+JsonValue typeSchema(std::string_view type);
 
-inline JsonValue integerSchema() { return JsonMap{{"type", "integer"}, {"format", "int64"}}; }
+JsonValue integerSchema();
 
-inline JsonValue binarySchema() {
-  return JsonMap{{"type", "string"}, {"contentMediaType", "application/octet-stream"}};
-}
+JsonValue binarySchema();
 
 // The schema that also takes null.
-inline JsonValue nullable(JsonValue schema) {
-  JsonMap& s = schema.as_object();
-  if (s.empty()) return schema;  // any value already
-  JsonValue* type = s.if_contains("type");
-  if (!type) return JsonMap{{"anyOf", JsonList{schema, typeSchema("null")}}};  // a $ref
-  if (type->is_string()) *type = JsonList{*type, "null"};
-  if (JsonValue* values = s.if_contains("enum")) values->as_array().emplace_back(nullptr);
-  return schema;
-}
+JsonValue nullable(JsonValue schema);
 
-inline JsonList stringList(const std::vector<std::string>& items) {
-  JsonList out;
-  for (const auto& item : items) out.emplace_back(item);
-  return out;
-}
+JsonList stringList(const std::vector<std::string>& items);
 
-inline bool contains(const std::vector<std::string>& list, std::string_view item) {
-  return std::find(list.begin(), list.end(), item) != list.end();
-}
+bool contains(const std::vector<std::string>& list, std::string_view item);
 
-inline const char* needName(Need need) {
-  switch (need) {
-    case Need::none: return "none";
-    case Need::optional: return "optional";
-    case Need::required: return "required";
-    case Need::alwaysSent: return "always-sent";
-  }
-  return "none";
-}
+const char* needName(Need need);
 
 // Whether a face puts the parameter in every request.
-inline bool alwaysSent(Need need) { return need == Need::required || need == Need::alwaysSent; }
+bool alwaysSent(Need need);
 
 // How a schema reads values: as the library reads a reply (null stands for an absent optional member), or as
 // a face sends a parameter (an absent one is left out, never sent as null).
@@ -189,13 +136,7 @@ class Generator {
   std::vector<std::string> seenTags_;
 };
 
-inline JsonValue dateSchema() {
-  return JsonMap{{"type", "number"},
-                 {"minimum", dateToNumber(kEarliestDate, DateStrategy::secondsSince1970)},
-                 {"maximum", dateToNumber(kLatestDate, DateStrategy::secondsSince1970)},
-                 {"description", "A date: seconds since 1970-01-01T00:00:00Z, fractions allowed (the host's decoder)."},
-                 {"x-date-strategy", "secondsSince1970"}};
-}
+JsonValue dateSchema();
 
 // A Typed-face member as the decoders read it: std::optional takes null, AnyCodable any value.
 template <class M>
@@ -446,24 +387,8 @@ std::vector<Parameter> Generator::parameters(std::vector<std::string_view>& mess
   return out;
 }
 
-inline JsonMap bodySchema(const std::vector<Parameter>& params, bool (*include)(const Parameter&),
-                          bool (*required)(const Parameter&), JsonMap& encoding, bool jsonEncoding) {
-  JsonMap properties;
-  std::vector<std::string> keys;
-  for (const auto& p : params) {
-    if (!include(p)) continue;
-    properties[p.key] = p.schema;
-    if (required(p)) keys.push_back(p.key);
-    if (p.file) {
-      encoding[p.key] = JsonMap{{"contentType", "application/octet-stream"}};
-    } else if (p.json && jsonEncoding) {
-      encoding[p.key] = JsonMap{{"contentType", "application/json"}};
-    }
-  }
-  JsonMap schema{{"type", "object"}, {"properties", std::move(properties)}};
-  if (!keys.empty()) schema["required"] = stringList(keys);
-  return schema;
-}
+JsonMap bodySchema(const std::vector<Parameter>& params, bool (*include)(const Parameter&),
+                   bool (*required)(const Parameter&), JsonMap& encoding, bool jsonEncoding);
 
 template <class A, class Endpoints>
 JsonMap Generator::operation() {
