@@ -4,13 +4,20 @@
 namespace qb::detail {
 
 void JsonTextSink::writeDouble(double d) {
-  comma();
+  separate();
   if (!appendJsonDouble(out_, d)) throw EncodingError({}, "Unable to encode a non-finite Double directly in JSON.");
 }
 
 void JsonTextSink::writeAny(const JsonValue& value) {
-  comma();
+  separate();
   appendJson(out_, value);
+}
+
+void JsonTextSink::key(std::string_view name) {
+  if (!appendJsonKey(out_, name, needComma_)) {
+    throw EncodingError({}, "Unable to encode a string that is not valid UTF-8.");
+  }
+  needComma_ = false;
 }
 
 void JsonTextSink::writeQuoted(std::string_view s) {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/detail/JsonBuffer.hpp>
 #include <QBComponentAPI/frame/detail/TypedCodec.hpp>
 #include <charconv>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -18,72 +20,58 @@ class JsonTextSink {
   JsonTextSink(std::string& out, DateStrategy strategy) : out_(out), strategy_(strategy) {}
 
   DateStrategy dateStrategy() const noexcept { return strategy_; }
-  void beginObject() {
-    comma();
-    out_ += '{';
-    first_ = true;
-  }
-  void endObject() {
-    out_ += '}';
-    first_ = false;
-  }
-  void beginArray() {
-    comma();
-    out_ += '[';
-    first_ = true;
-  }
-  void endArray() {
-    out_ += ']';
-    first_ = false;
-  }
-  void key(std::string_view name) {
-    comma();
-    writeQuoted(name);
-    out_ += ':';
-    afterKey_ = true;
-  }
+  void beginObject() { open('{'); }
+  void endObject() { close('}'); }
+  void beginArray() { open('['); }
+  void endArray() { close(']'); }
+  void key(std::string_view name);
   /// A key that needs no escape, given with its quotes and colon.
   void quotedKey(std::string_view text) {
-    comma();
-    out_ += text;
-    afterKey_ = true;
+    write(text.data(), text.size());
+    needComma_ = false;
   }
-  void writeNull() {
-    comma();
-    out_ += "null";
-  }
-  void writeBool(bool b) {
-    comma();
-    out_ += b ? "true" : "false";
-  }
+  void writeNull() { write("null", 4); }
+  void writeBool(bool b) { b ? write("true", 4) : write("false", 5); }
   void writeInt64(std::int64_t i) {
-    comma();
-    char buffer[24];
-    out_.append(buffer, std::to_chars(buffer, buffer + sizeof buffer, i).ptr);
+    char* p = out_.reserve(21);
+    if (needComma_) *p++ = ',';
+    out_.advance(std::to_chars(p, p + 20, i).ptr);
+    needComma_ = true;
   }
   void writeDouble(double d);
   void writeString(std::string_view s) {
-    comma();
+    separate();
     writeQuoted(s);
   }
   void writeAny(const JsonValue& value);
 
  private:
-  void comma() {
-    if (afterKey_) {
-      afterKey_ = false;
-      first_ = false;
-      return;
-    }
-    if (!first_) out_ += ',';
-    first_ = false;
+  // The comma before a key or a value that follows another member or element; none after an opening
+  // bracket or a key.
+  void separate() {
+    if (needComma_) out_.put(',');
+    needComma_ = true;
+  }
+  void write(const char* text, std::size_t n) {
+    char* p = out_.reserve(n + 1);
+    if (needComma_) *p++ = ',';
+    std::memcpy(p, text, n);
+    out_.advance(p + n);
+    needComma_ = true;
+  }
+  void open(char bracket) {
+    write(&bracket, 1);
+    needComma_ = false;
+  }
+  void close(char bracket) {
+    out_.put(bracket);
+    needComma_ = true;
   }
   void writeQuoted(std::string_view s);
 
-  std::string& out_;
+  JsonBuffer out_;
   DateStrategy strategy_;
-  bool first_ = true;
-  bool afterKey_ = false;
+  bool needComma_ = false;
 };
 
 }  // namespace detail
@@ -104,8 +92,10 @@ class JSONEncoder {
 template <class T>
 std::string JSONEncoder::encode(const T& value) const {
   std::string out;
-  detail::JsonTextSink sink(out, dateStrategy);
-  detail::encodeValue(sink, value);
+  {
+    detail::JsonTextSink sink(out, dateStrategy);
+    detail::encodeValue(sink, value);
+  }  // the sink's buffer cuts the string to the text written
   return out;
 }
 

@@ -1,14 +1,17 @@
 #include <QBComponentAPI/frame/Json.hpp>
 #include <QBComponentAPI/frame/detail/Simdjson.hpp>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <stdexcept>
 #if defined(__SSE2__)
 #include <emmintrin.h>
 #endif
 
 #include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/detail/JsonBuffer.hpp>
 #include <QBComponentAPI/frame/detail/JsonFault.hpp>
 
 namespace qb {
@@ -77,124 +80,77 @@ simdjson::dom::parser& threadParser() {
   return parser;
 }
 
-// Writes JSON text; `indent` < 0 means compact. Returns false on a value that is not JSON.
-class Writer {
- public:
-  Writer(std::string& out, int indent) : out_(out), indent_(indent) {}
-
-  bool write(const JsonValue& value, std::size_t depth = 0) {
-    switch (value.kind()) {
-      case boost::json::kind::null: out_ += "null"; return true;
-      case boost::json::kind::bool_: out_ += value.get_bool() ? "true" : "false"; return true;
-      case boost::json::kind::int64: return number(value.get_int64());
-      case boost::json::kind::uint64: return number(value.get_uint64());
-      case boost::json::kind::double_: return real(value.get_double());
-      case boost::json::kind::string: return text(value.get_string());
-      case boost::json::kind::array: return list(value.get_array(), depth + 1);
-      case boost::json::kind::object: return map(value.get_object(), depth + 1);
-    }
-    return false;
-  }
-
-  bool map(const JsonMap& members, std::size_t depth = 1) {
-    if (depth > kMaxJsonDepth) return false;
-    out_ += '{';
-    bool first = true;
-    for (const auto& member : members) {
-      if (!first) out_ += ',';
-      first = false;
-      newline(depth);
-      if (!text(member.key())) return false;
-      out_ += indent_ < 0 ? ":" : ": ";
-      if (!write(member.value(), depth)) return false;
-    }
-    if (!members.empty()) newline(depth - 1);
-    out_ += '}';
-    return true;
-  }
-
- private:
-  template <class Int>
-  bool number(Int n) {
-    char buffer[24];
-    auto result = std::to_chars(buffer, buffer + sizeof buffer, n);
-    out_.append(buffer, result.ptr);
-    return true;
-  }
-
-  bool real(double d) { return detail::appendJsonDouble(out_, d); }
-
-  bool text(std::string_view s) { return detail::appendQuotedJson(out_, s); }
-
-  void newline(std::size_t depth) {
-    if (indent_ < 0) return;
-    out_ += '\n';
-    out_.append(depth * static_cast<std::size_t>(indent_), ' ');
-  }
-
-  bool list(const JsonList& items, std::size_t depth) {
-    if (depth > kMaxJsonDepth) return false;
-    out_ += '[';
-    bool first = true;
-    for (const auto& item : items) {
-      if (!first) out_ += ',';
-      first = false;
-      newline(depth);
-      if (!write(item, depth)) return false;
-    }
-    if (!items.empty()) newline(depth - 1);
-    out_ += ']';
-    return true;
-  }
-
-  std::string& out_;
-  int indent_;
-};
-
 }  // namespace
 
 namespace detail {
 
-bool appendJsonDouble(std::string& out, double d) {
+void JsonBuffer::grow(std::size_t n) {
+  const auto used = static_cast<std::size_t>(pos_ - out_.data());
+  if (n > out_.max_size() - used) throw std::length_error("JSON text too long");
+  // The string's capacity doubles as it grows, which keeps the copies linear. Its size, which resize
+  // fills with zeros, grows by an eighth at a time (at most 1 MiB): the unused capacity at the end is then
+  // never touched, so a large text costs no page faults for room it does not use.
+  const std::size_t step = std::clamp(used / 8, std::size_t{256}, std::size_t{1} << 20);
+  out_.resize(used + std::max(n, step));
+  pos_ = out_.data() + used;
+  end_ = out_.data() + out_.size();
+}
+
+bool appendJsonDouble(JsonBuffer& out, double d) {
   if (!std::isfinite(d)) return false;
-  char buffer[40];
+  constexpr std::size_t kMost = 40;
+  char* const start = out.reserve(kMost + 2);
   // Whole numbers such as timestamps read better as 1700000000.0 than as 1.7e+09; both are exact.
-  auto result = std::trunc(d) == d && std::fabs(d) < 1e15
-                    ? std::to_chars(buffer, buffer + sizeof buffer, d, std::chars_format::fixed)
-                    : std::to_chars(buffer, buffer + sizeof buffer, d);
-  std::string_view written(buffer, static_cast<std::size_t>(result.ptr - buffer));
-  out += written;
+  const bool whole = std::trunc(d) == d && std::fabs(d) < 1e15;
+  char* const end = whole ? std::to_chars(start, start + kMost, d, std::chars_format::fixed).ptr
+                          : std::to_chars(start, start + kMost, d).ptr;
   // Keep a double a double when the text is read back: "2" would come back as an integer.
-  if (written.find_first_of(".e") == std::string_view::npos) out += ".0";
+  if (whole || std::none_of(start, end, [](char c) { return c == '.' || c == 'e'; })) {
+    std::memcpy(end, ".0", 2);
+    out.advance(end + 2);
+  } else {
+    out.advance(end);
+  }
   return true;
 }
 
 namespace {
 
-constexpr std::uint64_t kOnes = 0x0101010101010101ull;
-constexpr std::uint64_t kHighs = 0x8080808080808080ull;
-
-// Sets the high bit of each byte of `w` that is below 0x20, a quote or a backslash. A byte above such
-// a byte may be flagged too; the word is then looked at byte by byte, which decides.
-constexpr std::uint64_t mayNeedEscape(std::uint64_t w) noexcept {
-  const std::uint64_t quote = w ^ (kOnes * '"');
-  const std::uint64_t backslash = w ^ (kOnes * '\\');
-  return ((w - kOnes * 0x20) | (quote - kOnes) | (backslash - kOnes)) & ~w & kHighs;
-}
-
 // Where the first byte below 0x20, quote or backslash of a text may be (its size when there is surely
 // none), and whether the bytes before that are all ASCII. `first` may fall short of the true first such
-// byte and `ascii` may be false for ASCII bytes: the caller then looks byte by byte from `first` and checks
+// byte and `ascii` may be false for ASCII bytes: the caller then looks on from `first` and checks
 // the text as UTF-8, which decides.
 struct EscapeScan {
   std::size_t first;
   bool ascii;
 };
 
+// The first byte to escape in p[from, n), or n, one byte at a time. `ascii` is cleared when a byte before
+// it is outside ASCII.
+std::size_t findEscapeByBytes(const char* p, std::size_t from, std::size_t n, bool& ascii) noexcept {
+  for (; from < n; ++from) {
+    const auto c = static_cast<unsigned char>(p[from]);
+    if (c < 0x20 || c == '"' || c == '\\') return from;
+    if (c >= 0x80) ascii = false;
+  }
+  return n;
+}
+
 #if defined(__SSE2__)
+constexpr std::uint64_t kOnes = 0x0101010101010101ull;
+constexpr std::uint64_t kHighs = 0x8080808080808080ull;
+
+// Sets the high bit of each byte of `w` that is below 0x20, a quote or a backslash. A byte above such
+// a byte may be flagged too; the caller then looks from there byte by byte, which decides.
+constexpr std::uint64_t mayNeedEscape(std::uint64_t w) noexcept {
+  const std::uint64_t quote = w ^ (kOnes * '"');
+  const std::uint64_t backslash = w ^ (kOnes * '\\');
+  return ((w - kOnes * 0x20) | (quote - kOnes) | (backslash - kOnes)) & ~w & kHighs;
+}
+
 // A text of under sixteen bytes, read as two overlapping words straight from where it lies (a copy into a
 // block and a wide load of it would stall on the store).
-EscapeScan scanShortForEscape(const char* p, std::size_t n) noexcept {
+[[gnu::always_inline]] inline EscapeScan scanShortForEscape(const char* p, std::size_t n) noexcept {
   if (n >= 8) {
     std::uint64_t head, tail;
     std::memcpy(&head, p, 8);
@@ -212,12 +168,8 @@ EscapeScan scanShortForEscape(const char* p, std::size_t n) noexcept {
     return {n, (w & kHighs) == 0};
   }
   bool ascii = true;
-  for (std::size_t i = 0; i < n; ++i) {
-    const auto c = static_cast<unsigned char>(p[i]);
-    if (c < 0x20 || c == '"' || c == '\\') return {i, ascii};
-    if (c >= 0x80) ascii = false;
-  }
-  return {n, ascii};
+  const std::size_t first = findEscapeByBytes(p, 0, n, ascii);
+  return {first, ascii};
 }
 
 inline int escapeMask(__m128i block) noexcept {
@@ -227,84 +179,159 @@ inline int escapeMask(__m128i block) noexcept {
   return _mm_movemask_epi8(_mm_or_si128(_mm_or_si128(quote, backslash), control));
 }
 
-// Sixteen bytes at a time, the last sixteen read as one block (those already seen are known clean).
-EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
-  if (n < 16) return scanShortForEscape(p, n);
+// The first byte to escape in p[from, n), or n. `ascii` is cleared when a byte before it is outside ASCII.
+std::size_t findEscape(const char* p, std::size_t from, std::size_t n, bool& ascii) noexcept {
   int high = 0;
-  for (std::size_t i = 0;; i += 16) {
-    const bool last = i + 16 >= n;
-    const std::size_t base = last ? n - 16 : i;
-    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + base));
+  for (; from + 16 <= n; from += 16) {
+    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + from));
     const int highs = _mm_movemask_epi8(block);
     if (const int mask = escapeMask(block)) {
       const auto at = static_cast<unsigned>(__builtin_ctz(static_cast<unsigned>(mask)));
-      return {base + at, (high | (highs & ((1 << at) - 1))) == 0};
+      if ((high | (highs & ((1 << at) - 1))) != 0) ascii = false;
+      return from + at;
     }
     high |= highs;
-    if (last) return {n, high == 0};
   }
+  if (high != 0) ascii = false;
+  if (from < n && n >= 16) {
+    // The last bytes, read as the text's last sixteen with those already seen shifted out.
+    const std::size_t seen = from - (n - 16);
+    const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + n - 16));
+    const int highs = _mm_movemask_epi8(block) >> seen;
+    if (const int mask = escapeMask(block) >> seen) {
+      const auto at = static_cast<unsigned>(__builtin_ctz(static_cast<unsigned>(mask)));
+      if ((highs & ((1 << at) - 1)) != 0) ascii = false;
+      return from + at;
+    }
+    if (highs != 0) ascii = false;
+    return n;
+  }
+  return findEscapeByBytes(p, from, n, ascii);
 }
 #else
-// Without SSE2 the word loop of appendQuotedJson reads the whole text.
-EscapeScan scanForEscape(const char*, std::size_t) noexcept { return {0, false}; }
+std::size_t findEscape(const char* p, std::size_t from, std::size_t n, bool& ascii) noexcept {
+  return findEscapeByBytes(p, from, n, ascii);
+}
 #endif
 
-}  // namespace
+[[gnu::always_inline]] inline EscapeScan scanForEscape(const char* p, std::size_t n) noexcept {
+#if defined(__SSE2__)
+  if (n < 16) return scanShortForEscape(p, n);
+#endif
+  bool ascii = true;
+  const std::size_t first = findEscape(p, 0, n, ascii);
+  return {first, ascii};
+}
 
-bool appendQuotedJson(std::string& out, std::string_view s) {
+// Writes the escape of `c` (a quote, a backslash or a control byte) at p; returns its end.
+char* writeEscape(char* p, unsigned char c) noexcept {
   static constexpr char kHex[] = "0123456789abcdef";
+  p[0] = '\\';
+  switch (c) {
+    case '"': p[1] = '"'; return p + 2;
+    case '\\': p[1] = '\\'; return p + 2;
+    case '\n': p[1] = 'n'; return p + 2;
+    case '\r': p[1] = 'r'; return p + 2;
+    case '\t': p[1] = 't'; return p + 2;
+    case '\b': p[1] = 'b'; return p + 2;
+    case '\f': p[1] = 'f'; return p + 2;
+    default:
+      std::memcpy(p + 1, "u00", 3);
+      p[4] = kHex[c >> 4];
+      p[5] = kHex[c & 0xF];
+      return p + 6;
+  }
+}
+
+// Copies n bytes. Most texts of a reply are short: up to sixteen bytes they are copied as two
+// overlapping words, without a call to memcpy.
+[[gnu::always_inline]] inline void copyText(char* to, const char* from, std::size_t n) noexcept {
+  if (n >= 8 && n <= 16) {
+    std::uint64_t head, tail;
+    std::memcpy(&head, from, 8);
+    std::memcpy(&tail, from + n - 8, 8);
+    std::memcpy(to, &head, 8);
+    std::memcpy(to + n - 8, &tail, 8);
+  } else if (n >= 4 && n < 8) {
+    std::uint32_t head, tail;
+    std::memcpy(&head, from, 4);
+    std::memcpy(&tail, from + n - 4, 4);
+    std::memcpy(to, &head, 4);
+    std::memcpy(to + n - 4, &tail, 4);
+  } else {
+    std::memcpy(to, from, n);
+  }
+}
+
+// Copies a text that needs no escape, with its quotes.
+void appendQuotedWhole(JsonBuffer& out, std::string_view s) {
   const std::size_t n = s.size();
-  const EscapeScan scan = scanForEscape(s.data(), n);
-  out.reserve(out.size() + n + 2);
-  out += '"';
+  char* p = out.reserve(n + 2);
+  *p = '"';
+  copyText(p + 1, s.data(), n);
+  p[n + 1] = '"';
+  out.advance(p + n + 2);
+}
+
+// The texts appendQuotedJson does not copy whole at once: those outside ASCII, checked as UTF-8 first,
+// and those with a byte to escape. Kept out of line, so that the common case is a short function.
+[[gnu::noinline]] bool appendQuotedRest(JsonBuffer& out, std::string_view s, EscapeScan scan) {
+  const std::size_t n = s.size();
   if (scan.first == n) {
-    // Most texts need no escape: copied whole, checked as UTF-8 only when one of their bytes is not ASCII.
-    if (!scan.ascii && !simdjson::validate_utf8(s.data(), n)) return false;
-    out.append(s.data(), n);
-    out += '"';
+    if (!simdjson::validate_utf8(s.data(), n)) return false;
+    appendQuotedWhole(out, s);
     return true;
   }
-  // From the first escape on, eight bytes at a time: runs that need no escape are copied whole, and the
-  // text is checked as UTF-8 only when it has a byte outside ASCII.
+  // From the first escape on, each run up to the next byte to escape is found sixteen bytes at a time and
+  // copied whole. (The first scan may stop short of the first such byte; the loop then moves on from it.)
+  out.put('"');
   bool ascii = scan.ascii;
   std::size_t run = 0;  // start of the text not yet copied
   std::size_t i = scan.first;
   while (i < n) {
-    std::size_t end = n;  // bytes up to `end` are looked at one by one
-    if (i + 8 <= n) {
-      std::uint64_t w;
-      std::memcpy(&w, s.data() + i, 8);
-      if ((w & kHighs) != 0) ascii = false;
-      if (mayNeedEscape(w) == 0) {
-        i += 8;
-        continue;
-      }
-      end = i + 8;
-    }
-    for (; i < end; ++i) {
-      const auto c = static_cast<unsigned char>(s[i]);
+    const auto c = static_cast<unsigned char>(s[i]);
+    if (c >= 0x20 && c != '"' && c != '\\') {
       if (c >= 0x80) ascii = false;
-      if (c >= 0x20 && c != '"' && c != '\\') continue;
-      out.append(s.data() + run, i - run);
-      run = i + 1;
-      switch (c) {
-        case '"': out += "\\\""; break;
-        case '\\': out += "\\\\"; break;
-        case '\n': out += "\\n"; break;
-        case '\r': out += "\\r"; break;
-        case '\t': out += "\\t"; break;
-        case '\b': out += "\\b"; break;
-        case '\f': out += "\\f"; break;
-        default:
-          out += "\\u00";
-          out += kHex[c >> 4];
-          out += kHex[c & 0xF];
-      }
+      i = findEscape(s.data(), i + 1, n, ascii);
+      continue;
     }
+    out.append(s.data() + run, i - run);
+    out.advance(writeEscape(out.reserve(6), c));
+    run = ++i;
+    i = findEscape(s.data(), i, n, ascii);
   }
-  if (!ascii && !simdjson::validate_utf8(s.data(), s.size())) return false;
-  out.append(s.data() + run, s.size() - run);
-  out += '"';
+  if (!ascii && !simdjson::validate_utf8(s.data(), n)) return false;
+  out.append(s.data() + run, n - run);
+  out.put('"');
+  return true;
+}
+
+}  // namespace
+
+bool appendQuotedJson(JsonBuffer& out, std::string_view s) {
+  const EscapeScan scan = scanForEscape(s.data(), s.size());
+  // Most texts are ASCII and need no escape: copied whole.
+  if (scan.first != s.size() || !scan.ascii) return appendQuotedRest(out, s, scan);
+  appendQuotedWhole(out, s);
+  return true;
+}
+
+bool appendJsonKey(JsonBuffer& out, std::string_view key, bool comma) {
+  const std::size_t n = key.size();
+  const EscapeScan scan = scanForEscape(key.data(), n);
+  if (scan.first == n && scan.ascii) {
+    char* p = out.reserve(n + 4);
+    if (comma) *p++ = ',';
+    *p = '"';
+    copyText(p + 1, key.data(), n);
+    p[n + 1] = '"';
+    p[n + 2] = ':';
+    out.advance(p + n + 3);
+    return true;
+  }
+  if (comma) out.put(',');
+  if (!appendQuotedRest(out, key, scan)) return false;
+  out.put(':');
   return true;
 }
 
@@ -335,6 +362,86 @@ bool isWritableJson(const JsonValue& value, std::size_t depth) {
 }
 
 }  // namespace detail
+
+namespace {
+
+// Writes JSON text, compact or indented by two spaces. Returns false on a value that is not JSON.
+template <bool Pretty>
+class Writer {
+ public:
+  explicit Writer(detail::JsonBuffer& out) : out_(out) {}
+
+  bool write(const JsonValue& value, std::size_t depth = 0) {
+    switch (value.kind()) {
+      case boost::json::kind::null: out_.append("null", 4); return true;
+      case boost::json::kind::bool_: value.get_bool() ? out_.append("true", 4) : out_.append("false", 5); return true;
+      case boost::json::kind::int64: return number(value.get_int64());
+      case boost::json::kind::uint64: return number(value.get_uint64());
+      case boost::json::kind::double_: return detail::appendJsonDouble(out_, value.get_double());
+      case boost::json::kind::string: return detail::appendQuotedJson(out_, value.get_string());
+      case boost::json::kind::array: return list(value.get_array(), depth + 1);
+      case boost::json::kind::object: return map(value.get_object(), depth + 1);
+    }
+    return false;
+  }
+
+  bool map(const JsonMap& members, std::size_t depth = 1) {
+    if (depth > kMaxJsonDepth) return false;
+    out_.put('{');
+    bool first = true;
+    for (const auto& member : members) {
+      if constexpr (Pretty) {
+        if (!first) out_.put(',');
+        newline(depth);
+        if (!detail::appendQuotedJson(out_, member.key())) return false;
+        out_.append(": ", 2);
+      } else {
+        if (!detail::appendJsonKey(out_, member.key(), !first)) return false;
+      }
+      first = false;
+      if (!write(member.value(), depth)) return false;
+    }
+    if (!members.empty()) newline(depth - 1);
+    out_.put('}');
+    return true;
+  }
+
+ private:
+  template <class Int>
+  bool number(Int n) {
+    char* p = out_.reserve(24);
+    out_.advance(std::to_chars(p, p + 24, n).ptr);
+    return true;
+  }
+
+  void newline(std::size_t depth) {
+    if constexpr (!Pretty) return;
+    const std::size_t spaces = depth * 2;
+    char* p = out_.reserve(spaces + 1);
+    *p = '\n';
+    std::memset(p + 1, ' ', spaces);
+    out_.advance(p + 1 + spaces);
+  }
+
+  bool list(const JsonList& items, std::size_t depth) {
+    if (depth > kMaxJsonDepth) return false;
+    out_.put('[');
+    bool first = true;
+    for (const auto& item : items) {
+      if (!first) out_.put(',');
+      first = false;
+      newline(depth);
+      if (!write(item, depth)) return false;
+    }
+    if (!items.empty()) newline(depth - 1);
+    out_.put(']');
+    return true;
+  }
+
+  detail::JsonBuffer& out_;
+};
+
+}  // namespace
 
 JsonValue parseJson(JsonText json, boost::json::storage_ptr storage) {
   const std::string_view bytes = json.text;
@@ -372,25 +479,34 @@ static EncodingError unwritable() {
                        "nesting too deep).");
 }
 
-void detail::appendJson(std::string& out, const JsonValue& value) {
-  if (!Writer(out, -1).write(value)) throw unwritable();
+void detail::appendJson(detail::JsonBuffer& out, const JsonValue& value) {
+  if (!Writer<false>(out).write(value)) throw unwritable();
 }
 
 std::string toJson(const JsonValue& value) {
   std::string out;
-  detail::appendJson(out, value);
+  {
+    detail::JsonBuffer buffer(out);
+    detail::appendJson(buffer, value);
+  }
   return out;
 }
 
 std::string toJson(const JsonMap& map) {
   std::string out;
-  if (!Writer(out, -1).map(map)) throw unwritable();
+  {
+    detail::JsonBuffer buffer(out);
+    if (!Writer<false>(buffer).map(map)) throw unwritable();
+  }
   return out;
 }
 
 std::optional<std::string> toPrettyJson(const JsonValue& value) {
   std::string out;
-  if (!Writer(out, 2).write(value)) return std::nullopt;
+  {
+    detail::JsonBuffer buffer(out);
+    if (!Writer<true>(buffer).write(value)) return std::nullopt;
+  }
   return out;
 }
 

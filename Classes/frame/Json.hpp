@@ -45,13 +45,16 @@ std::optional<std::string> toPrettyJson(const JsonValue& value);
 std::string_view describeKind(const JsonValue& value) noexcept;
 
 namespace detail {
+class JsonBuffer;
 /// Appends `text` as a quoted, escaped JSON string; false (nothing useful appended) for invalid UTF-8.
-bool appendQuotedJson(std::string& out, std::string_view text);
+bool appendQuotedJson(JsonBuffer& out, std::string_view text);
+/// Appends `"key":`, after a comma when `comma`, the key escaped as any text; false for invalid UTF-8.
+bool appendJsonKey(JsonBuffer& out, std::string_view key, bool comma);
 /// Appends the compact JSON text of `value`, as toJson writes it and throwing as it does (with part of the
 /// text then appended).
-void appendJson(std::string& out, const JsonValue& value);
+void appendJson(JsonBuffer& out, const JsonValue& value);
 /// Appends the shortest exact text of `d` (with ".0" for whole numbers); false for a non-finite value.
-bool appendJsonDouble(std::string& out, double d);
+bool appendJsonDouble(JsonBuffer& out, double d);
 /// Whether `value` can be written as JSON when it sits inside `depth` objects or arrays: every number
 /// finite, every text and key valid UTF-8, no nesting past kMaxJsonDepth. Writes and allocates nothing.
 bool isWritableJson(const JsonValue& value, std::size_t depth = 0);

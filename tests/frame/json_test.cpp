@@ -2,6 +2,7 @@
 
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
+#include <boost/json/serialize.hpp>
 #include <cstdlib>
 #include <random>
 
@@ -75,10 +76,15 @@ TEST(Json, TextsAreEscapedAndCheckedWhereverTheByteFalls) {
         text.replace(at, 1, special);
         SCOPED_TRACE(::testing::Message() << "length " << length << ", at " << at << ", byte "
                                           << static_cast<int>(static_cast<unsigned char>(special[0])));
+        // The same text as a map key, and with the special byte a second time a few bytes further on.
+        const std::string twice = text + std::string(at % 19, 'b') + special;
         if (special == "\xff") {
           EXPECT_THROW(toJson(JsonValue(text)), EncodingError);
+          EXPECT_THROW(toJson(JsonMap{{text, 1}}), EncodingError);
         } else {
           EXPECT_EQ(toJson(JsonValue(text)), reference(text));
+          EXPECT_EQ(toJson(JsonMap{{text, 1}, {"k", 2}}), "{" + reference(text) + R"(:1,"k":2})");
+          EXPECT_EQ(toJson(JsonValue(twice)), reference(twice));
         }
       }
     }
@@ -94,6 +100,20 @@ TEST(Json, TextsAreEscapedAndCheckedWhereverTheByteFalls) {
     EXPECT_THROW(toJson(JsonValue(before)), EncodingError) << length;
   }
   EXPECT_EQ(toJson(JsonValue("")), "\"\"");
+}
+
+// The writers grow their output in steps: texts from a few bytes to several megabytes come out whole,
+// as Boost.JSON writes them (the same for plain texts and integers).
+TEST(Json, LongTextsComeOutWhole) {
+  for (const std::size_t count : {0, 1, 20, 21, 300, 70000, 150000}) {
+    JsonList list;
+    for (std::size_t i = 0; i < count; ++i) {
+      list.emplace_back(std::string(i % 37, static_cast<char>('a' + i % 26)));
+      list.emplace_back(static_cast<std::int64_t>(i) * 7919);
+    }
+    const JsonValue value(std::move(list));
+    EXPECT_EQ(toJson(value), boost::json::serialize(value)) << count;
+  }
 }
 
 TEST(Json, PrettyTextIsIndentedAndRefusesWhatIsNotJson) {
