@@ -3,6 +3,32 @@
 
 namespace qb::detail {
 
+namespace {
+struct ThreadEncodeBuffer {
+  std::string text;
+  bool inUse = false;
+};
+thread_local ThreadEncodeBuffer threadEncodeBuffer;
+}  // namespace
+
+EncodeBuffer::EncodeBuffer() noexcept : text_(&own_), threads_(!threadEncodeBuffer.inUse) {
+  if (threads_) {
+    threadEncodeBuffer.inUse = true;
+    threadEncodeBuffer.text.clear();
+    text_ = &threadEncodeBuffer.text;
+  }
+}
+
+EncodeBuffer::~EncodeBuffer() {
+  if (threads_) threadEncodeBuffer.inUse = false;
+}
+
+std::string EncodeBuffer::take() {
+  // The thread keeps a buffer as large as the parser keeps its own.
+  if (!threads_ || text_->capacity() > kLargeBuffer) return std::move(*text_);
+  return *text_;
+}
+
 void JsonTextSink::writeDouble(double d) {
   separate();
   if (!appendJsonDouble(out_, d)) throw EncodingError({}, "Unable to encode a non-finite Double directly in JSON.");

@@ -74,6 +74,27 @@ class JsonTextSink {
   bool needComma_ = false;
 };
 
+/// The storage an encode writes into: the thread's own buffer, kept from one encode to the next so that
+/// a text is not grown through a series of fresh allocations each time, or a string of its own when the
+/// thread's buffer is already in use (an encode within an encode).
+class EncodeBuffer {
+ public:
+  EncodeBuffer() noexcept;
+  ~EncodeBuffer();
+  EncodeBuffer(const EncodeBuffer&) = delete;
+  EncodeBuffer& operator=(const EncodeBuffer&) = delete;
+
+  std::string& text() noexcept { return *text_; }
+  /// The text written, as a string of its own. A large one takes the buffer's storage with it, and the
+  /// thread's next encode starts afresh.
+  std::string take();
+
+ private:
+  std::string own_;
+  std::string* text_;
+  bool threads_;
+};
+
 }  // namespace detail
 
 class JSONEncoder {
@@ -91,12 +112,12 @@ class JSONEncoder {
 /// `extern template` for its records, and only the domain's own .cpp file compiles it.
 template <class T>
 std::string JSONEncoder::encode(const T& value) const {
-  std::string out;
+  detail::EncodeBuffer buffer;
   {
-    detail::JsonTextSink sink(out, dateStrategy);
+    detail::JsonTextSink sink(buffer.text(), dateStrategy);
     detail::encodeValue(sink, value);
-  }  // the sink's buffer cuts the string to the text written
-  return out;
+  }  // the sink cuts the text to what was written
+  return buffer.take();
 }
 
 }  // namespace qb
