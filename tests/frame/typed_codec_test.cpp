@@ -296,6 +296,20 @@ TEST(TypedCodec, NumbersReadOnTheFastPathAsTheFullParseReadsThem) {
   }
 }
 
+TEST(TypedCodec, TextsReadOnTheFastPathAsTheFullParseReadsThem) {
+  // Texts without escapes are read where they lie, up to their closing quote, whatever spaces follow;
+  // texts with escapes are unescaped.
+  for (const std::string& tags : std::vector<std::string>{
+           R"(["", "a", "caf\u00e9", "x\"y", "\\", "tab\tend", "\ud83d\ude00", "naïve"])",
+           "[ \"a\" , \"b\"\n,\r\n\t\"c\"\n ]", R"(["a quote at the end\""])", R"(["\\"])",
+           R"(["ends in a backslash pair \\", "ok"])", R"([")" + std::string(200, 'z') + R"("])"}) {
+    const std::string json = R"({"id": 1, "tier": 0, "tags": )" + tags + " }  ";
+    const auto fast = streamed<Item>(json);
+    ASSERT_TRUE(fast) << json;
+    EXPECT_EQ(*fast, JsonValueDecoder().decode<Item>(parseJson(json))) << json;
+  }
+}
+
 TEST(TypedCodec, GetConfigRequestDescribesTheCall) {
   const UserGetConfigRequest request{.languageCode = LanguageCode::de, .countryCode = "DE"};
   EXPECT_EQ(request.api(), "v3/user/get_config");
