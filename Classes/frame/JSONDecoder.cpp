@@ -49,11 +49,7 @@ JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth) {
       }
       return list;
     }
-    case simdjson::ondemand::json_type::string: {
-      std::string_view s;
-      if (value.get_string().get(s)) throwStreamFailure();
-      return JsonValue(s);
-    }
+    case simdjson::ondemand::json_type::string: return JsonValue(readText(value));
     case simdjson::ondemand::json_type::number: {
       const StreamNumber number = readNumber(value);
       switch (number.kind) {

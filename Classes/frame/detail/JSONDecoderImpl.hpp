@@ -61,6 +61,23 @@ struct StreamNumber {
 
 constexpr bool isJsonSpace(char c) noexcept { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
+// A text value. One without escapes is read where it lies in the reply; only one with escapes is
+// unescaped, into the parser's string buffer. (The reply was checked as UTF-8 before any of it was read.)
+inline std::string_view readText(simdjson::ondemand::value& value) {
+  const std::string_view token = value.raw_json_token();  // the quoted text and the spaces after it
+  if (!token.empty() && token.front() == '"') {
+    std::size_t end = token.size();
+    while (end > 1 && isJsonSpace(token[end - 1])) --end;
+    if (end >= 2 && token[end - 1] == '"') {
+      const std::string_view text = token.substr(1, end - 2);
+      if (text.find('\\') == std::string_view::npos) return text;  // the parser skips the value
+    }
+  }
+  std::string_view s;
+  if (value.get_string().get(s)) throwStreamFailure();
+  return s;
+}
+
 inline StreamNumber readNumber(simdjson::ondemand::value& value) {
   simdjson::ondemand::number_type type;
   if (value.get_number_type().get(type)) throwStreamFailure();
@@ -106,22 +123,7 @@ class StreamNode {
     return i;
   }
   double readDouble() { return readNumber(value_).asDouble(); }
-  // A text without escapes is read where it lies in the reply; only one with escapes is unescaped, into
-  // the parser's string buffer. (The reply was checked as UTF-8 before any of it was read.)
-  std::string_view readString() {
-    const std::string_view token = value_.raw_json_token();  // the quoted text and the spaces after it
-    if (!token.empty() && token.front() == '"') {
-      std::size_t end = token.size();
-      while (end > 1 && isJsonSpace(token[end - 1])) --end;
-      if (end >= 2 && token[end - 1] == '"') {
-        const std::string_view text = token.substr(1, end - 2);
-        if (text.find('\\') == std::string_view::npos) return text;  // the parser skips the value
-      }
-    }
-    std::string_view s;
-    if (value_.get_string().get(s)) throwStreamFailure();
-    return s;
-  }
+  std::string_view readString() { return readText(value_); }
   JsonValue readAny() { return streamToValue(value_, 0); }
   template <class F>
   void forEachField(F&& f) {
