@@ -14,9 +14,9 @@ from collections import defaultdict
 
 UNIT_NS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 TYPED = ["ceiling", "qb", "handwritten", "boost", "nlohmann", "rapidjson"]
-DICT = ["qb", "qb_monotonic", "boost_parse", "boost_parse_monotonic", "nlohmann_parse"]
+DICT = ["qb", "qb_bytes", "qb_monotonic", "boost_parse", "boost_parse_monotonic", "nlohmann_parse"]
 ENCODE = ["qb", "boost", "nlohmann"]
-MEMORY = ["qb", "qb_wire", "handwritten", "boost", "nlohmann", "rapidjson", "dict_qb", "dict_qb_monotonic"]
+MEMORY = ["qb", "qb_wire", "handwritten", "boost", "nlohmann", "rapidjson", "dict_qb", "dict_qb_wire", "dict_qb_monotonic"]
 
 
 def load(path):
@@ -106,14 +106,14 @@ def main():
                      "ratios qb / peer",
                      ["reply"] + TYPED + [f"vs {p}" for p in typed_peers],
                      throughput_rows("typed", TYPED, "qb", typed_peers)))
-    dict_pairs = [("qb", "boost_parse"), ("qb_monotonic", "boost_parse_monotonic"), ("qb", "nlohmann_parse")]
+    dict_pairs = [("qb", "boost_parse"), ("qb_bytes", "boost_parse"), ("qb_monotonic", "boost_parse_monotonic"), ("qb", "nlohmann_parse")]
     rows = []
     for reply in replies_of(times, "dict"):
         small = reply not in large and sizes.get(("dict", "qb", reply), 0) < 100_000
         cells = [(fmt(times.get(("dict", v, reply)), 0) + " ns") if small else fmt(mbps(times, sizes, ("dict", v, reply)), 0)
                  for v in DICT]
         rows.append([reply] + cells + [fmt(ratio(times, "dict", reply, a, b)) for a, b in dict_pairs])
-    out.append(table("Dictionary face: parseJsonMap + parseResponse (initWithJsonObject) vs parse alone; ratios qb / peer",
+    out.append(table("Dictionary face: parseJsonMap + parseResponse (initWithJsonObject), and parseResponseBytes (qb_bytes, the host's reading) vs parse alone; ratios qb / peer",
                      ["reply"] + DICT + [f"{a} vs {b}" for a, b in dict_pairs], rows))
     out.append(table("Encoding: qb::JSONEncoder vs Boost.JSON serialize vs nlohmann dump (MB/s of output); ratios qb / peer",
                      ["reply"] + ENCODE + ["vs boost", "vs nlohmann"],
@@ -140,6 +140,7 @@ def main():
         "typed_vs_nlohmann": headline("typed", "qb", "nlohmann"),
         "typed_vs_rapidjson": headline("typed", "qb", "rapidjson"),
         "dict_vs_boost_parse": headline("dict", "qb", "boost_parse"),
+        "dict_bytes_vs_boost_parse": headline("dict", "qb_bytes", "boost_parse"),
         "dict_monotonic_vs_boost_parse_monotonic": headline("dict", "qb_monotonic", "boost_parse_monotonic"),
         "encode_vs_boost": headline("encode", "qb", "boost"),
     }

@@ -1,12 +1,12 @@
-// Dictionary face: arbitrary bytes as a reply map for every model and message, and as the values of
-// every message's parameters. Allowed outcomes: DecodingError from the parse, ParameterCheckFailException
-// and JsonTypeError from reading; anything else, and any value read from a reply that cannot be written
-// back exactly, is a finding.
+// Dictionary face: arbitrary bytes as a reply map for every model and message (read from the map, from a
+// map given up and from the map's text), and as the values of every message's parameters. Allowed
+// outcomes: DecodingError from the parse, ParameterCheckFailException and JsonTypeError from reading;
+// anything else, and any value read from a reply that cannot be written back exactly, is a finding.
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include <cstdlib>
 #include <string>
 #include <variant>
 
-#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include "fuzz/Registry.hpp"
 
 namespace {
@@ -55,6 +55,12 @@ void fuzzMessage(const qb::JsonMap& reply) {
   check(outcome([&] {
           moved->parseResponse(std::move(copy));
           return qb::detail::tableToDictionary(Message::qbResults(), *moved);
+        }) == borrowed);
+  // Read from its bytes, as the host reads a reply, the same map gives the same results or the same error.
+  auto parsed = std::make_shared<Message>();
+  check(outcome([&] {
+          parsed->parseResponseBytes(qb::toJson(reply));
+          return qb::detail::tableToDictionary(Message::qbResults(), *parsed);
         }) == borrowed);
   // The same map as parameter values, each read the way a model field of its kind is.
   try {

@@ -294,7 +294,7 @@ QBMessageBase& Client::send(QBMessageBase& message) {
     http.body = formEncode(params);
     http.contentType = "application/x-www-form-urlencoded";
   }
-  return message.parseResponse(parseJsonMap(payload(exchange(http))));
+  return message.parseResponseBytes(payload(exchange(http)));
 }
 
 }  // namespace qb::host

@@ -13,6 +13,11 @@
 // and its .cpp defines the operations with QB_DICT_MODEL_DEFINE(QBAPIAutoUpdate).
 #pragma once
 
+#include <QBComponentAPI/frame/Atomic.hpp>
+#include <QBComponentAPI/frame/Endpoint.hpp>
+#include <QBComponentAPI/frame/Errors.hpp>
+#include <QBComponentAPI/frame/Json.hpp>
+#include <QBComponentAPI/frame/QBMessageBase.hpp>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -23,13 +28,10 @@
 #include <type_traits>
 #include <vector>
 
-#include <QBComponentAPI/frame/Atomic.hpp>
-#include <QBComponentAPI/frame/Endpoint.hpp>
-#include <QBComponentAPI/frame/Errors.hpp>
-#include <QBComponentAPI/frame/Json.hpp>
-#include <QBComponentAPI/frame/QBMessageBase.hpp>
-
 namespace qb {
+namespace detail {
+class ReplyValue;
+}
 
 /// The common face of every Dictionary-face model.
 class QBAPIModel {
@@ -90,8 +92,7 @@ struct Field {
 };
 
 template <class Owner, class T>
-constexpr Field<Owner, T> field(std::string_view key, std::string_view name, Atomic<T> Owner::*member,
-                                bool required) {
+constexpr Field<Owner, T> field(std::string_view key, std::string_view name, Atomic<T> Owner::*member, bool required) {
   return {key, name, member, required};
 }
 
@@ -132,14 +133,14 @@ class DictMessage : public QBMessageBase {
 
 // --- Declaration macros -------------------------------------------------------------------------------
 
-#define QB_DICT_PROPERTY_(Type, name, Name)                   \
- public:                                                      \
-  Type name() const { return name##_.load(); }                \
+#define QB_DICT_PROPERTY_(Type, name, Name)                       \
+ public:                                                          \
+  Type name() const { return name##_.load(); }                    \
   void set##Name(Type value) { name##_.store(std::move(value)); } \
-                                                              \
- private:                                                     \
-  ::qb::Atomic<Type> name##_;                                 \
-                                                              \
+                                                                  \
+ private:                                                         \
+  ::qb::Atomic<Type> name##_;                                     \
+                                                                  \
  public:
 
 /// A plain value: text, number, boolean, kept exactly as the reply gave it.
@@ -177,26 +178,29 @@ class DictMessage : public QBMessageBase {
 /// initWithJsonObject throws ParameterCheckFailException for the first required field (in declared order)
 /// that is absent or null, and JsonTypeError for a value that cannot be read as its kind (a null or a
 /// list in an integer field, a non-map where a nested model is read).
-#define QB_DICT_MODEL(Class, Name)                                          \
- public:                                                                    \
-  using Self = Class;                                                       \
-  static constexpr std::string_view kModelName = Name;                      \
-  Class() = default;                                                        \
-  static std::shared_ptr<Class> initWithJsonObject(const ::qb::JsonMap& map); \
-  /* The same from a map the caller gives up: values are moved, not copied. */ \
-  static std::shared_ptr<Class> initWithJsonObject(::qb::JsonMap&& map);      \
-  static std::shared_ptr<Class> initWithJsonObject(const ::qb::JsonValue& value); \
-  ::qb::JsonMap toDictionary() const override;                              \
+#define QB_DICT_MODEL(Class, Name)                                                                \
+ public:                                                                                          \
+  using Self = Class;                                                                             \
+  static constexpr std::string_view kModelName = Name;                                            \
+  Class() = default;                                                                              \
+  static std::shared_ptr<Class> initWithJsonObject(const ::qb::JsonMap& map);                     \
+  /* The same from a map the caller gives up: values are moved, not copied. */                    \
+  static std::shared_ptr<Class> initWithJsonObject(::qb::JsonMap&& map);                          \
+  static std::shared_ptr<Class> initWithJsonObject(const ::qb::JsonValue& value);                 \
+  /* The same from an object of a parsed reply (the Dictionary face's own reading of a reply). */ \
+  static std::shared_ptr<Class> initWithReply(const ::qb::detail::ReplyValue& object);            \
+  ::qb::JsonMap toDictionary() const override;                                                    \
   std::string_view modelName() const override { return kModelName; }
 
 /// Opens a message class: `Action` names it in reasons ("GetConfig"), `endpoint` is its qb::Endpoint.
-#define QB_DICT_MESSAGE(Class, Action, endpoint)                       \
- public:                                                               \
-  using Self = Class;                                                  \
-  static constexpr std::string_view kModelName = Action;               \
-  static constexpr ::qb::Endpoint kEndpoint = endpoint;                \
-  Class() = default;                                                   \
-  friend class ::qb::DictMessage<Class>;                               \
-  ::qb::JsonMap getParams() const override;                            \
+#define QB_DICT_MESSAGE(Class, Action, endpoint)                           \
+ public:                                                                   \
+  using Self = Class;                                                      \
+  static constexpr std::string_view kModelName = Action;                   \
+  static constexpr ::qb::Endpoint kEndpoint = endpoint;                    \
+  Class() = default;                                                       \
+  friend class ::qb::DictMessage<Class>;                                   \
+  ::qb::JsonMap getParams() const override;                                \
   ::qb::QBMessageBase& parseResponse(const ::qb::JsonMap& reply) override; \
-  ::qb::QBMessageBase& parseResponse(::qb::JsonMap&& reply) override;
+  ::qb::QBMessageBase& parseResponse(::qb::JsonMap&& reply) override;      \
+  ::qb::QBMessageBase& parseResponseBytes(::qb::JsonText reply) override;

@@ -4,4 +4,6 @@ namespace qb {
 
 std::vector<QBMimeBody> QBMessageBase::mimeBodies() const { return {}; }
 
+QBMessageBase& QBMessageBase::parseResponseBytes(JsonText reply) { return parseResponse(parseJsonMap(reply)); }
+
 }  // namespace qb

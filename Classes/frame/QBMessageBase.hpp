@@ -1,11 +1,10 @@
 // The base of every Dictionary-face message: what the host messaging layer asks of a message.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include <QBComponentAPI/frame/HostTypes.hpp>
 #include <QBComponentAPI/frame/Json.hpp>
+#include <string>
+#include <vector>
 
 namespace qb {
 
@@ -38,6 +37,11 @@ class QBMessageBase {
   /// the properties instead of copied, which halves the allocations of a large reply. Messages of this
   /// library override it; a message that does not reads the reply as the overload above does.
   virtual QBMessageBase& parseResponse(JsonMap&& reply) { return parseResponse(static_cast<const JsonMap&>(reply)); }
+  /// The same from the reply's bytes, as the host receives them: parses them and reads the results,
+  /// throwing what parseJsonMap throws for bytes that are not a JSON object. Messages of this library
+  /// read their results and models from the parsed reply directly, without building it as a JsonMap
+  /// first; a message that does not override it parses with parseJsonMap and calls parseResponse.
+  virtual QBMessageBase& parseResponseBytes(JsonText reply);
 
  protected:
   QBMessageBase() = default;

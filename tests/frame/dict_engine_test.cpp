@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/frame/detail/DictEngine.hpp>
 #include <QBComponentAPI/user/dict/QBAPIAutoUpdate.hpp>
 #include <QBComponentAPI/user/dict/QBAPIClientConfig.hpp>
 #include <QBComponentAPI/user/dict/QBAPIFaq.hpp>
@@ -213,19 +214,22 @@ TEST(DictEngine, AReplyThatFailsPartWayLeavesEveryResultAsItWas) {
     return std::tuple(m.user().get(), m.userAdditionalData().get(), m.accessToken(), m.config().get(), m.otherConfigs(),
                       m.appServerTime(), m.country());
   };
+  enum class From { borrowedMap, givenMap, bytes };
   for (const auto& c : cases) {
-    for (const bool given : {false, true}) {
-      SCOPED_TRACE(c.reply + (given ? " (given up)" : " (borrowed)"));
+    for (const From from : {From::borrowedMap, From::givenMap, From::bytes}) {
+      SCOPED_TRACE(c.reply + " (read from form " + std::to_string(static_cast<int>(from)) + ")");
       auto message = QBUserInitialiseMessage::initWithData(nullptr, nullptr, 0, JsonValue("US"));
-      message->parseResponse(parseJsonMap(first));
+      message->parseResponseBytes(first);
       ASSERT_TRUE(message->user() && message->config() && message->otherConfigs() && message->accessToken());
       const auto before = results(*message);
       EXPECT_EQ(failureOf([&] {
-                  if (given) {
+                  if (from == From::givenMap) {
                     message->parseResponse(parseJsonMap(c.reply));
-                  } else {
+                  } else if (from == From::borrowedMap) {
                     const JsonMap reply = parseJsonMap(c.reply);
                     message->parseResponse(reply);
+                  } else {
+                    message->parseResponseBytes(c.reply);
                   }
                 }),
                 c.failure);
@@ -245,6 +249,9 @@ TEST(DictEngine, AReplyThatFailsPartWayLeavesEveryResultAsItWas) {
   EXPECT_EQ(failureOf([&] { faqs->parseResponse(withFaqs(R"(, {"title": "t"})")); }),
             "content is missing in model Faq");
   EXPECT_EQ(failureOf([&] { faqs->parseResponse(withFaqs(", null")); }), "JsonTypeError");
+  EXPECT_EQ(failureOf([&] { faqs->parseResponseBytes(toJson(withFaqs(R"(, {"title": "t"})"))); }),
+            "content is missing in model Faq");
+  EXPECT_EQ(failureOf([&] { faqs->parseResponseBytes(toJson(withFaqs(", 7"))); }), "JsonTypeError");
   EXPECT_EQ(faqs->faqs(), list);
 }
 
@@ -263,6 +270,37 @@ TEST(DictEngine, AReplyGivenUpIsReadLikeABorrowedOne) {
   EXPECT_EQ(moved->config()->toDictionary(), copied->config()->toDictionary());
   EXPECT_EQ(toJson(*moved->otherConfigs()), R"({"b":18446744073709551615})");
   EXPECT_EQ(borrowed, parseJsonMap(reply)) << "a borrowed reply is left as it was";
+
+  // And the same read from the reply's bytes, where models are read from the parsed reply itself.
+  auto parsed = QBUserGetConfigMessage::initWithData(1, JsonValue("DE"));
+  parsed->parseResponseBytes(reply);
+  ASSERT_TRUE(parsed->config());
+  EXPECT_EQ(parsed->config()->toDictionary(), copied->config()->toDictionary());
+  EXPECT_EQ(toJson(*parsed->otherConfigs()), R"({"b":18446744073709551615})");
+  auto faqs = QBUserGetFaqMessage::initWithData(0, 1);
+  const std::string faqReply = R"({"faqs": [{"title": "t", "content": "c", "faq_type": "7 days", "x": []},
+                                            {"content": "d", "title": "u", "faq_type": 2.9}], "more": 1})";
+  faqs->parseResponseBytes(faqReply);
+  auto fromMap = QBUserGetFaqMessage::initWithData(0, 1);
+  fromMap->parseResponse(parseJsonMap(faqReply));
+  EXPECT_EQ(detail::tableToDictionary(QBUserGetFaqMessage::qbResults(), *faqs),
+            detail::tableToDictionary(QBUserGetFaqMessage::qbResults(), *fromMap));
+  // Bytes that are not one JSON object fail as parseJsonMap fails.
+  for (const char* bad : {"[1]", "\"x\"", "{", ""}) {
+    std::string viaBytes, viaMap;
+    try {
+      parsed->parseResponseBytes(bad);
+    } catch (const DecodingError& e) {
+      viaBytes = e.what();
+    }
+    try {
+      (void)parseJsonMap(bad);
+    } catch (const DecodingError& e) {
+      viaMap = e.what();
+    }
+    EXPECT_FALSE(viaBytes.empty()) << bad;
+    EXPECT_EQ(viaBytes, viaMap) << bad;
+  }
 
   // Models read from an owned map likewise.
   EXPECT_EQ(QBAPIClientConfig::initWithJsonObject(parseJsonMap(kConfig))->toDictionary(),

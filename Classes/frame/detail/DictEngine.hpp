@@ -2,6 +2,9 @@
 // declares its field tables with the macros of frame/DictModel.hpp. Included only by .cpp files.
 #pragma once
 
+#include <QBComponentAPI/frame/DictModel.hpp>
+#include <QBComponentAPI/frame/detail/NameTable.hpp>
+#include <QBComponentAPI/frame/detail/ReplyValue.hpp>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -9,15 +12,12 @@
 #include <type_traits>
 #include <utility>
 
-#include <QBComponentAPI/frame/DictModel.hpp>
-#include <QBComponentAPI/frame/detail/NameTable.hpp>
-
 namespace qb::detail {
 
 template <class T>
 struct DictKind {
-  static constexpr bool plain = false, integer = false, model = false, modelList = false, list = false,
-                        map = false, data = false;
+  static constexpr bool plain = false, integer = false, model = false, modelList = false, list = false, map = false,
+                        data = false;
 };
 template <>
 struct DictKind<std::optional<JsonValue>> : DictKind<void> {
@@ -298,51 +298,155 @@ void storeResult(Owner& owner, const dict::Field<Owner, T>& field, std::optional
   }
 }
 
+// Reads a value of the parsed reply as readValue reads the same value from a map, building only what the
+// property keeps: a nested model reads its own fields from the reply, never from a map built for it.
+template <class M>
+std::vector<std::shared_ptr<M>> readReplyModelList(const ReplyValue& value, std::string_view key) {
+  if (!value.isArray()) throwNotA("an array", key, value.value());
+  std::vector<std::shared_ptr<M>> models;
+  models.reserve(value.size());
+  value.forEachElement([&](const ReplyValue& element) {
+    if (!element.isObject()) {
+      throwNotA("an object", std::string(key) + '[' + std::to_string(models.size()) + ']', element.value());
+    }
+    models.push_back(M::initWithReply(element));
+  });
+  return models;
+}
+
+template <class T, class Put>
+bool readValue(std::string_view key, const ReplyValue* value, Put&& put) {
+  using Kind = DictKind<T>;
+  if constexpr (Kind::integer) {
+    put(value ? toInteger(value->value(), key) : std::int64_t{0});
+    return true;
+  } else {
+    if (value && value->isNull()) value = nullptr;
+    if constexpr (Kind::map) {
+      if (!value || !value->isObject()) return false;
+      put(std::move(value->value().get_object()));
+      return true;
+    } else {
+      if (!value) return false;
+      if constexpr (Kind::plain) {
+        put(value->value());
+      } else if constexpr (Kind::model) {
+        if (!value->isObject()) throwNotA("an object", key, value->value());
+        put(Kind::Model::initWithReply(*value));
+      } else if constexpr (Kind::modelList) {
+        put(readReplyModelList<typename Kind::Model>(*value, key));
+      } else if constexpr (Kind::list) {
+        if (!value->isArray()) throwNotA("an array", key, value->value());
+        put(std::move(value->value().get_array()));
+      } else {
+        static_assert(!Kind::data, "file data is never read from a reply");
+      }
+      return true;
+    }
+  }
+}
+
+// The reply's value under each key of the table, in declared order, or an absent one (a null pointer
+// from `at`) where the key is absent; the last of repeated keys counts, as in a map.
+template <auto TableFn>
+struct ReplyFields {
+  using Table = NameTable<TableKeys<TableFn>::names>;
+  std::array<ReplyValue, Table::count> values{};
+  std::array<bool, Table::count> present{};
+
+  explicit ReplyFields(const ReplyValue& object) {
+    if constexpr (Table::count > 0) {
+      object.forEachMember([&](std::string_view key, const ReplyValue& value) {
+        const int index = Table::find(key);
+        if (index < 0) return;
+        values[static_cast<std::size_t>(index)] = value;
+        present[static_cast<std::size_t>(index)] = true;
+      });
+    }
+  }
+  const ReplyValue* at(std::size_t index) const { return present[index] ? &values[index] : nullptr; }
+};
+
+template <class Model>
+std::shared_ptr<Model> modelFromReply(const ReplyValue& object) {
+  auto model = std::make_shared<Model>();
+  const ReplyFields<&Model::qbFields> fields(object);
+  std::size_t index = 0;
+  forEachField(Model::qbFields(), [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
+    Atomic<T>& cell = (*model).*field.member;
+    const bool read = readValue<T>(field.key, fields.at(index++),
+                                   [&](auto&& value) { cell.store(std::forward<decltype(value)>(value)); });
+    if (!read && field.required) throw ParameterCheckFailException::missing(field.name, Model::kModelName);
+  });
+  return model;
+}
+
 // Every result is read into a temporary first and stored only when all were read, so a reply that fails
 // part-way (a nested record missing a required field, a value of the wrong shape) leaves the message with
-// the results it had. Values moved out of an owned reply are moved once more into the properties, never
-// copied.
-template <class Message, class Map>
-void messageParseResponse(Message& message, Map& reply) {
+// the results it had. `valueAt(I)` is the reply's value under the I-th result's key (nullptr: absent).
+// Values moved out of an owned reply are moved once more into the properties, never copied.
+template <class Message, class ValueAt>
+void messageReadResults(Message& message, ValueAt&& valueAt) {
   using Keys = TableKeys<&Message::qbResults>;
   using Table = std::remove_cv_t<decltype(Keys::table)>;
-  [[maybe_unused]] const auto values = fieldValuesIn<&Message::qbResults>(reply);
   [&]<std::size_t... I>(std::index_sequence<I...>) {
     [[maybe_unused]] std::tuple<std::optional<typename FieldType<std::tuple_element_t<I, Table>>::type>...> read;
     (readValue<typename FieldType<std::tuple_element_t<I, Table>>::type>(
-         std::get<I>(Keys::table).key, values[I],
+         std::get<I>(Keys::table).key, valueAt(I),
          [&](auto&& value) { std::get<I>(read).emplace(std::forward<decltype(value)>(value)); }),
      ...);
     (storeResult(message, std::get<I>(Keys::table), std::get<I>(read)), ...);
-  }(std::make_index_sequence<std::tuple_size_v<Table>>{});
+  }
+  (std::make_index_sequence<std::tuple_size_v<Table>>{});
+}
+
+template <class Message, class Map>
+void messageParseResponse(Message& message, Map& reply) {
+  [[maybe_unused]] const auto values = fieldValuesIn<&Message::qbResults>(reply);
+  messageReadResults(message, [&](std::size_t i) { return values[i]; });
+}
+
+// The same from the reply's bytes: the results and their models are read from the parsed reply itself.
+template <class Message>
+void messageParseReply(Message& message, JsonText bytes) {
+  const ReplyValue root = parseReplyObject(bytes);
+  const ReplyFields<&Message::qbResults> values(root);
+  messageReadResults(message, [&](std::size_t i) { return values.at(i); });
 }
 
 }  // namespace qb::detail
 
 // Defines a model's operations; put in the class's .cpp file after including the headers of the nested
 // model classes it refers to.
-#define QB_DICT_MODEL_DEFINE(Class)                                                                    \
-  std::shared_ptr<Class> Class::initWithJsonObject(const ::qb::JsonMap& map) {                         \
-    return ::qb::detail::modelFromMap<Class>(map);                                                     \
-  }                                                                                                    \
-  std::shared_ptr<Class> Class::initWithJsonObject(::qb::JsonMap&& map) {                              \
-    return ::qb::detail::modelFromMap<Class>(map);                                                     \
-  }                                                                                                    \
-  std::shared_ptr<Class> Class::initWithJsonObject(const ::qb::JsonValue& value) {                     \
-    return ::qb::detail::modelFromMap<Class>(::qb::detail::asMap(value, kModelName));                  \
-  }                                                                                                    \
+#define QB_DICT_MODEL_DEFINE(Class)                                                     \
+  std::shared_ptr<Class> Class::initWithJsonObject(const ::qb::JsonMap& map) {          \
+    return ::qb::detail::modelFromMap<Class>(map);                                      \
+  }                                                                                     \
+  std::shared_ptr<Class> Class::initWithJsonObject(::qb::JsonMap&& map) {               \
+    return ::qb::detail::modelFromMap<Class>(map);                                      \
+  }                                                                                     \
+  std::shared_ptr<Class> Class::initWithJsonObject(const ::qb::JsonValue& value) {      \
+    return ::qb::detail::modelFromMap<Class>(::qb::detail::asMap(value, kModelName));   \
+  }                                                                                     \
+  std::shared_ptr<Class> Class::initWithReply(const ::qb::detail::ReplyValue& object) { \
+    return ::qb::detail::modelFromReply<Class>(object);                                 \
+  }                                                                                     \
   ::qb::JsonMap Class::toDictionary() const { return ::qb::detail::tableToDictionary(qbFields(), *this); }
 
 // Defines a message's getParams and parseResponse; put in the class's .cpp file.
-#define QB_DICT_MESSAGE_DEFINE(Class)                                                                  \
-  ::qb::JsonMap Class::getParams() const { return ::qb::detail::messageParams(*this); }                \
-  ::qb::QBMessageBase& Class::parseResponse(const ::qb::JsonMap& reply) {                              \
-    ::qb::detail::messageParseResponse(*this, reply);                                                  \
-    return *this;                                                                                      \
-  }                                                                                                    \
-  ::qb::QBMessageBase& Class::parseResponse(::qb::JsonMap&& reply) {                                   \
-    ::qb::detail::messageParseResponse(*this, reply);                                                  \
-    return *this;                                                                                      \
+#define QB_DICT_MESSAGE_DEFINE(Class)                                                   \
+  ::qb::JsonMap Class::getParams() const { return ::qb::detail::messageParams(*this); } \
+  ::qb::QBMessageBase& Class::parseResponse(const ::qb::JsonMap& reply) {               \
+    ::qb::detail::messageParseResponse(*this, reply);                                   \
+    return *this;                                                                       \
+  }                                                                                     \
+  ::qb::QBMessageBase& Class::parseResponse(::qb::JsonMap&& reply) {                    \
+    ::qb::detail::messageParseResponse(*this, reply);                                   \
+    return *this;                                                                       \
+  }                                                                                     \
+  ::qb::QBMessageBase& Class::parseResponseBytes(::qb::JsonText reply) {                \
+    ::qb::detail::messageParseReply(*this, reply);                                      \
+    return *this;                                                                       \
   }
 
 // Defines every Dictionary-face model and message of a domain catalogue (see frame/Catalogue.hpp), and
@@ -350,7 +454,7 @@ void messageParseResponse(Message& message, Map& reply) {
 // namespace scope in a .cpp file that includes the domain's Dictionary-face umbrella header.
 #define QB_DICT_CHECK_API_BOTH_(constant, path, verb, auth, Message, Request) \
   QB_DICT_CHECK_API_DICT_(constant, path, verb, auth, Message)
-#define QB_DICT_CHECK_API_DICT_(constant, path, verb, auth, Message)     \
+#define QB_DICT_CHECK_API_DICT_(constant, path, verb, auth, Message)    \
   static_assert(::qb::sameEndpoint(::qb::Message::kEndpoint, constant), \
                 #Message " declares another endpoint than its catalogue line " #constant);
 #define QB_DICT_DEFINE_API_BOTH_(constant, path, verb, auth, Message, Request) QB_DICT_MESSAGE_DEFINE(qb::Message)
@@ -359,9 +463,9 @@ void messageParseResponse(Message& message, Map& reply) {
 #define QB_DICT_DEFINE_RECORD_BOTH_(Dictionary, Typed) QB_DICT_MODEL_DEFINE(qb::Dictionary)
 #define QB_DICT_DEFINE_RECORD_DICT_(Dictionary) QB_DICT_MODEL_DEFINE(qb::Dictionary)
 #define QB_DICT_SKIP_RECORD_TYPED_(Typed)
-#define QB_DICT_DEFINE_DOMAIN(domain, ENDPOINTS, RECORDS)                                          \
-  namespace qb::domain {                                                                           \
-  ENDPOINTS(QB_DICT_CHECK_API_BOTH_, QB_DICT_CHECK_API_DICT_, QB_DICT_SKIP_API_TYPED_)             \
-  }                                                                                                \
-  ENDPOINTS(QB_DICT_DEFINE_API_BOTH_, QB_DICT_DEFINE_API_DICT_, QB_DICT_SKIP_API_TYPED_)           \
+#define QB_DICT_DEFINE_DOMAIN(domain, ENDPOINTS, RECORDS)                                \
+  namespace qb::domain {                                                                 \
+  ENDPOINTS(QB_DICT_CHECK_API_BOTH_, QB_DICT_CHECK_API_DICT_, QB_DICT_SKIP_API_TYPED_)   \
+  }                                                                                      \
+  ENDPOINTS(QB_DICT_DEFINE_API_BOTH_, QB_DICT_DEFINE_API_DICT_, QB_DICT_SKIP_API_TYPED_) \
   RECORDS(QB_DICT_DEFINE_RECORD_BOTH_, QB_DICT_DEFINE_RECORD_DICT_, QB_DICT_SKIP_RECORD_TYPED_)
