@@ -39,21 +39,21 @@ void JsonTextSink::writeAny(const JsonValue& value) {
   appendJson(out_, value);
 }
 
+namespace {
+[[noreturn]] void throwNotUtf8() { throw EncodingError({}, "Unable to encode a string that is not valid UTF-8."); }
+}  // namespace
+
 void JsonTextSink::key(std::string_view name) {
-  if (!appendJsonKey(out_, name, needComma_)) {
-    throw EncodingError({}, "Unable to encode a string that is not valid UTF-8.");
-  }
+  if (!appendJsonKey(out_, name, needComma_)) throwNotUtf8();
   needComma_ = false;
 }
 
 void JsonTextSink::writeQuoted(std::string_view s) {
-  if (!appendQuotedJson(out_, s)) throw EncodingError({}, "Unable to encode a string that is not valid UTF-8.");
+  if (!appendQuotedJson(out_, s)) throwNotUtf8();
 }
 
 void checkWritable(std::string_view text) {
-  if (!simdjson::validate_utf8(text.data(), text.size())) {
-    throw EncodingError({}, "Unable to encode a string that is not valid UTF-8.");
-  }
+  if (!simdjson::validate_utf8(text.data(), text.size())) throwNotUtf8();
 }
 
 [[noreturn]] void throwMismatch(std::string_view expected, const JsonValue& found) {

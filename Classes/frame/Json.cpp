@@ -265,14 +265,16 @@ char* writeEscape(char* p, unsigned char c) noexcept {
   }
 }
 
-// Copies a text that needs no escape, with its quotes.
-void appendQuotedWhole(JsonBuffer& out, std::string_view s) {
-  const std::size_t n = s.size();
-  char* p = out.reserve(n + 2);
+// Writes a text that needs no escape at p, with its quotes (room for its size + 2); returns the end.
+char* writeQuotedWhole(char* p, std::string_view s) noexcept {
   *p = '"';
-  copyText(p + 1, s.data(), n);
-  p[n + 1] = '"';
-  out.advance(p + n + 2);
+  copyText(p + 1, s.data(), s.size());
+  p[s.size() + 1] = '"';
+  return p + s.size() + 2;
+}
+
+void appendQuotedWhole(JsonBuffer& out, std::string_view s) {
+  out.advance(writeQuotedWhole(out.reserve(s.size() + 2), s));
 }
 
 // The texts appendQuotedJson does not copy whole at once: those outside ASCII, checked as UTF-8 first,
@@ -324,11 +326,9 @@ bool appendJsonKey(JsonBuffer& out, std::string_view key, bool comma) {
   if (scan.first == n && scan.ascii) {
     char* p = out.reserve(n + 4);
     if (comma) *p++ = ',';
-    *p = '"';
-    copyText(p + 1, key.data(), n);
-    p[n + 1] = '"';
-    p[n + 2] = ':';
-    out.advance(p + n + 3);
+    p = writeQuotedWhole(p, key);
+    *p = ':';
+    out.advance(p + 1);
     return true;
   }
   if (comma) out.put(',');
@@ -443,10 +443,6 @@ class Writer {
   detail::JsonBuffer& out_;
 };
 
-}  // namespace
-
-namespace {
-
 // Parses `json` with the thread's parser; the root stays readable until the thread parses again.
 simdjson::dom::element parseRoot(JsonText json) {
   const std::string_view bytes = json.text;
@@ -490,18 +486,18 @@ JsonMap parseJsonMap(JsonText bytes, boost::json::storage_ptr storage) {
 namespace detail {
 
 // A ReplyValue holds a simdjson::dom::element's bytes: its document and its index in the document's tape.
-static_assert(sizeof(simdjson::dom::element) == sizeof(const void*) + sizeof(std::size_t));
-static_assert(std::is_trivially_copyable_v<simdjson::dom::element>);
-
 struct ReplyValueAccess {
+  static_assert(sizeof(simdjson::dom::element) == sizeof(ReplyValue::Handle));
+  static_assert(std::is_trivially_copyable_v<simdjson::dom::element>);
+
   static simdjson::dom::element element(const ReplyValue& value) noexcept {
     simdjson::dom::element out;
-    std::memcpy(static_cast<void*>(&out), &value.document_, sizeof out);
+    std::memcpy(static_cast<void*>(&out), &value.handle_, sizeof out);
     return out;
   }
   static ReplyValue of(simdjson::dom::element element) noexcept {
     ReplyValue out;
-    std::memcpy(&out.document_, static_cast<const void*>(&element), sizeof element);
+    std::memcpy(&out.handle_, static_cast<const void*>(&element), sizeof element);
     return out;
   }
 };

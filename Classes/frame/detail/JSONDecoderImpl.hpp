@@ -4,6 +4,7 @@
 
 #include <QBComponentAPI/frame/JSONDecoder.hpp>
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
+#include <QBComponentAPI/frame/detail/JsonFault.hpp>
 #include <QBComponentAPI/frame/detail/Simdjson.hpp>
 #include <cstring>
 
@@ -58,8 +59,6 @@ struct StreamNumber {
     return d;
   }
 };
-
-constexpr bool isJsonSpace(char c) noexcept { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 // A text value. One without escapes is read where it lies in the reply; only one with escapes is
 // unescaped, into the parser's string buffer. (The reply was checked as UTF-8 before any of it was read.)

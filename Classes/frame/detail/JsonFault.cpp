@@ -14,7 +14,6 @@ namespace {
 using Kind = JsonFault::Kind;
 
 bool isDigit(unsigned char c) noexcept { return c >= '0' && c <= '9'; }
-bool isSpace(unsigned char c) noexcept { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 int hexValue(unsigned char c) noexcept {
   if (c >= '0' && c <= '9') return c - '0';
@@ -145,7 +144,7 @@ class Scanner {
   JsonFault fault(Kind kind, std::size_t offset) const noexcept { return {kind, offset}; }
 
   void skipSpace() noexcept {
-    while (!atEnd() && isSpace(current())) ++i_;
+    while (!atEnd() && isJsonSpace(current())) ++i_;
   }
 
   // `"key"`, the colon and the space around it.
@@ -166,7 +165,7 @@ class Scanner {
   std::optional<JsonFault> scalarEnd() const {
     if (atEnd()) return std::nullopt;
     const unsigned char c = current();
-    if (isSpace(c) || c == ',' || c == ']' || c == '}') return std::nullopt;
+    if (isJsonSpace(c) || c == ',' || c == ']' || c == '}') return std::nullopt;
     return fault(Kind::unexpectedCharacter);
   }
 

@@ -9,6 +9,9 @@
 
 namespace qb::detail {
 
+/// The four bytes JSON allows between tokens (given as a char or an unsigned char).
+constexpr bool isJsonSpace(int c) noexcept { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+
 struct JsonFault {
   enum class Kind {
     unexpectedCharacter,  ///< a byte that no JSON text can have here

@@ -41,10 +41,12 @@ class ReplyValue {
   void members(MemberFn f, void* context) const;
   void elements(ElementFn f, void* context) const;
 
-  // The parser's document and the value's place in it, copied to and from the parser's own handle as
-  // one block.
-  const void* document_ = nullptr;
-  [[maybe_unused]] std::size_t index_ = 0;
+  // The parser's handle of the value (its document and the value's place in it), copied as one block.
+  struct Handle {
+    const void* document = nullptr;
+    std::size_t index = 0;
+  };
+  Handle handle_;
 };
 
 /// Parses `bytes` with the thread's parser and returns the root object, which stays readable until the
