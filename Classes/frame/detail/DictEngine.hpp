@@ -95,37 +95,64 @@ std::vector<std::shared_ptr<M>> readModelList(V& value, std::string_view key) {
   return models;
 }
 
+// What readValue asks of the reply's value, for a value of a map (V: JsonValue or const JsonValue).
+template <class V>
+bool isNullValue(V& value) {
+  return value.is_null();
+}
+template <class V>
+bool isObjectValue(V& value) {
+  return value.is_object();
+}
+template <class V>
+std::int64_t readInteger(V& value, std::string_view key) {
+  return toInteger(value, key);
+}
+template <class V>
+decltype(auto) takeMap(V& value) {
+  return take(value.get_object());
+}
+template <class M, class V>
+std::shared_ptr<M> readModel(V& value, std::string_view key) {
+  return M::initWithJsonObject(take(asMap(value, key)));
+}
+template <class V>
+decltype(auto) readList(V& value, std::string_view key) {
+  return take(asList(value, key));
+}
+
 // Reads the value of one field as initWithJsonObject does and hands it to put(), by value or as a reference
 // to move or copy from; returns whether there was one. `value` is the reply's value under the field's
-// key, nullptr when the key is absent. An integer always has a value (0 when absent); the others have
-// none when absent or null, and a map field none unless the reply holds a map there. Throws as reading
-// the field throws: nothing is handed to put() then.
+// key, nullptr when the key is absent: a value of a map or of a parsed reply (ReplyValue), read through
+// the operations above and their overloads below. An integer always has a value (0 when absent); the
+// others have none when absent or null, and a map field none unless the reply holds a map there. Throws
+// as reading the field throws: nothing is handed to put() then.
 template <class T, class V, class Put>
 bool readValue(std::string_view key, V* value, Put&& put) {
   using Kind = DictKind<T>;
   if constexpr (Kind::integer) {
     // Never null-checked: a null here is a fault of the reply and toInteger reports it.
-    put(value ? toInteger(*value, key) : std::int64_t{0});
+    put(value ? readInteger(*value, key) : std::int64_t{0});
     return true;
   } else {
-    if (value && value->is_null()) value = nullptr;
+    if (value && isNullValue(*value)) value = nullptr;
     if constexpr (Kind::map) {
       // The one type check of the face: a map field keeps only a map.
-      if (!value || !value->is_object()) return false;
-      put(take(value->get_object()));
+      if (!value || !isObjectValue(*value)) return false;
+      put(takeMap(*value));
       return true;
     } else {
       if (!value) return false;
       if constexpr (Kind::plain) {
         put(take(*value));
       } else if constexpr (Kind::model) {
-        put(Kind::Model::initWithJsonObject(take(asMap(*value, key))));
+        put(readModel<typename Kind::Model>(*value, key));
       } else if constexpr (Kind::modelList) {
         put(readModelList<typename Kind::Model>(*value, key));
       } else if constexpr (Kind::list) {
-        put(take(asList(*value, key)));
+        put(readList(*value, key));
       } else {
-        static_assert(!Kind::data, "file data is never read from a map");
+        static_assert(!Kind::data, "file data is never read from a reply");
       }
       return true;
     }
@@ -298,52 +325,35 @@ void storeResult(Owner& owner, const dict::Field<Owner, T>& field, std::optional
   }
 }
 
-// Reads a value of the parsed reply as readValue reads the same value from a map, building only what the
-// property keeps: a nested model reads its own fields from the reply, never from a map built for it.
+// The same operations for a value of a parsed reply, building only what the property keeps: a nested
+// model reads its own fields from the reply, never from a map built for it.
+inline bool isNullValue(const ReplyValue& value) { return value.isNull(); }
+inline bool isObjectValue(const ReplyValue& value) { return value.isObject(); }
+inline std::int64_t readInteger(const ReplyValue& value, std::string_view key) { return toInteger(value.value(), key); }
+inline JsonValue take(const ReplyValue& value) { return value.value(); }
+inline JsonMap takeMap(const ReplyValue& value) { return std::move(value.value().get_object()); }
 template <class M>
-std::vector<std::shared_ptr<M>> readReplyModelList(const ReplyValue& value, std::string_view key) {
+std::shared_ptr<M> readModel(const ReplyValue& value, std::string_view key) {
+  if (!value.isObject()) throwNotA("an object", key, value.value());
+  return M::initWithReply(value);
+}
+inline JsonList readList(const ReplyValue& value, std::string_view key) {
+  if (!value.isArray()) throwNotA("an array", key, value.value());
+  return std::move(value.value().get_array());
+}
+template <class M>
+std::vector<std::shared_ptr<M>> readModelList(const ReplyValue& value, std::string_view key) {
   if (!value.isArray()) throwNotA("an array", key, value.value());
   std::vector<std::shared_ptr<M>> models;
   models.reserve(value.size());
   value.forEachElement([&](const ReplyValue& element) {
+    // The error names the element: "faqs[2]".
     if (!element.isObject()) {
       throwNotA("an object", std::string(key) + '[' + std::to_string(models.size()) + ']', element.value());
     }
     models.push_back(M::initWithReply(element));
   });
   return models;
-}
-
-template <class T, class Put>
-bool readValue(std::string_view key, const ReplyValue* value, Put&& put) {
-  using Kind = DictKind<T>;
-  if constexpr (Kind::integer) {
-    put(value ? toInteger(value->value(), key) : std::int64_t{0});
-    return true;
-  } else {
-    if (value && value->isNull()) value = nullptr;
-    if constexpr (Kind::map) {
-      if (!value || !value->isObject()) return false;
-      put(std::move(value->value().get_object()));
-      return true;
-    } else {
-      if (!value) return false;
-      if constexpr (Kind::plain) {
-        put(value->value());
-      } else if constexpr (Kind::model) {
-        if (!value->isObject()) throwNotA("an object", key, value->value());
-        put(Kind::Model::initWithReply(*value));
-      } else if constexpr (Kind::modelList) {
-        put(readReplyModelList<typename Kind::Model>(*value, key));
-      } else if constexpr (Kind::list) {
-        if (!value->isArray()) throwNotA("an array", key, value->value());
-        put(std::move(value->value().get_array()));
-      } else {
-        static_assert(!Kind::data, "file data is never read from a reply");
-      }
-      return true;
-    }
-  }
 }
 
 // The reply's value under each key of the table, in declared order, or an absent one (a null pointer
