@@ -10,15 +10,18 @@
 
 namespace qb::detail {
 
-/// Writes at the end of `out`. The string's storage is grown ahead of the cursor (doubling), and the
-/// string is cut back to the text written when the buffer is finished or destroyed, so `out` holds exactly
-/// what was written even when a writer stops half way by throwing.
+/// Writes at the end of `out`. The string is grown ahead of the cursor (see grow), and cut back to the
+/// text written when the buffer is destroyed, so `out` holds exactly what was written even when a writer
+/// stops half way by throwing.
 class JsonBuffer {
  public:
   explicit JsonBuffer(std::string& out) noexcept : out_(out), pos_(out.data() + out.size()), end_(pos_) {}
   JsonBuffer(const JsonBuffer&) = delete;
   JsonBuffer& operator=(const JsonBuffer&) = delete;
-  ~JsonBuffer() { finish(); }
+  ~JsonBuffer() {
+    // Only ever shrinks the string here, which neither allocates nor throws.
+    out_.resize(static_cast<std::size_t>(pos_ - out_.data()));
+  }
 
   /// Room for `n` more bytes; returns where they go. Write them, then `advance` to the end of what was
   /// written.
@@ -39,13 +42,6 @@ class JsonBuffer {
     pos_ = p + n;
   }
   void append(std::string_view text) { append(text.data(), text.size()); }
-
-  /// Cuts the string back to the text written. Writing may go on after it.
-  void finish() noexcept {
-    const auto used = static_cast<std::size_t>(pos_ - out_.data());
-    out_.resize(used);  // only ever shrinks here, which neither allocates nor throws
-    pos_ = end_ = out_.data() + used;
-  }
 
  private:
   void grow(std::size_t n);
