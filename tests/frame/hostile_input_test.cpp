@@ -40,6 +40,7 @@ TEST(HostileInput, MalformedRepliesAreDataCorruptedInBothFaces) {
       "{\"faqs\": [{\"title\": \"\xff\", \"content\": \"c\", \"faq_type\": 1}]}",  // invalid UTF-8
       R"({"faqs": [{"title": "\ud800", "content": "c", "faq_type": 1}]})",         // lone surrogate escape
       R"({"faqs": [{"title": "t", "content": "c", "faq_type": 1e400}]})",
+      R"({"faqs": [{"content": "c", "faq_type": 1, "title": "t": "u"}}]})",  // a text taken for a key
       R"({"faqs": [)",
       R"({"faqs": []} {})",
       "",
@@ -103,6 +104,9 @@ TEST(HostileInput, NumbersAtTheLimits) {
   EXPECT_TRUE(std::signbit(JSONDecoder().decode<std::vector<double>>("[-0.0]")[0]));
   EXPECT_FALSE(std::signbit(JSONDecoder().decode<std::vector<double>>("[-0]")[0]));
   EXPECT_EQ(JSONDecoder().decode<std::vector<double>>("[18446744073709551615]")[0], 18446744073709551615.0);
+  // More than 19 digits: rounded from all of them.
+  EXPECT_EQ(JSONDecoder().decode<std::vector<double>>("[0.60000039333330000000001, 1.0000000000000000000001e2]"),
+            (std::vector<double>{0.6000003933333, 100.0}));
   EXPECT_THROW(JSONDecoder().decode<std::vector<double>>("[18446744073709551616]"), DecodingError);
 }
 

@@ -6,7 +6,9 @@
 #include <QBComponentAPI/frame/JsonValueCodec.hpp>
 #include <QBComponentAPI/frame/detail/JsonFault.hpp>
 #include <QBComponentAPI/frame/detail/Simdjson.hpp>
+#include <charconv>
 #include <cstring>
+#include <system_error>
 
 namespace qb::detail {
 
@@ -69,12 +71,29 @@ inline std::string_view readText(simdjson::ondemand::value& value) {
     while (end > 1 && isJsonSpace(token[end - 1])) --end;
     if (end >= 2 && token[end - 1] == '"') {
       const std::string_view text = token.substr(1, end - 2);
-      if (text.find('\\') == std::string_view::npos) return text;  // the parser skips the value
+      // Taken as read, so that the parser checks what follows it. (Left to be skipped, a text followed
+      // by a colon would pass for a key, and the value after it with it.)
+      simdjson::ondemand::raw_json_string raw;
+      if (text.find('\\') == std::string_view::npos && !value.get_raw_json_string().get(raw)) return text;
     }
   }
   std::string_view s;
   if (value.get_string().get(s)) throwStreamFailure();
   return s;
+}
+
+// `token` (a valid JSON number and the spaces after it) correctly rounded, when it has more than 19
+// digits; `parsed` otherwise.
+inline double readLongDouble(std::string_view token, double parsed) {
+  int digits = 0;
+  for (const char c : token) {
+    if (c == 'e' || c == 'E' || isJsonSpace(c)) break;
+    digits += c >= '0' && c <= '9';
+  }
+  if (digits <= 19) return parsed;
+  double d = 0;
+  if (std::from_chars(token.data(), token.data() + token.size(), d).ec != std::errc()) throwStreamFailure();
+  return d;
 }
 
 inline StreamNumber readNumber(simdjson::ondemand::value& value) {
@@ -92,6 +111,9 @@ inline StreamNumber readNumber(simdjson::ondemand::value& value) {
       return n;
     case simdjson::ondemand::number_type::floating_point_number:
       if (value.get_double().get(n.d)) throwStreamFailure();
+      // Numbers of more than 19 digits are read again by the standard library: the parser version this
+      // builds against misreads some of them on this path (0.60000039333330000000001 as 0.000112...).
+      if (const std::string_view token = value.raw_json_token(); token.size() > 20) n.d = readLongDouble(token, n.d);
       return n;
   }
   throwStreamFailure();
