@@ -1,4 +1,5 @@
-// Dictionary face: arbitrary bytes as a reply map for every model and message (read from the map, from a
+// Dictionary face: arbitrary bytes as a reply for every message (read from the bytes as the host reads
+// them, and from their full parse), as a reply map for every model and message (read from the map, from a
 // map given up and from the map's text), and as the values of every message's parameters. Allowed
 // outcomes: DecodingError from the parse, ParameterCheckFailException and JsonTypeError from reading;
 // anything else, and any value read from a reply that cannot be written back exactly, is a finding.
@@ -31,7 +32,25 @@ std::variant<qb::JsonMap, std::string> outcome(Read&& read) {
     return std::string("check: ") + e.what();
   } catch (const qb::JsonTypeError& e) {
     return std::string("type: ") + e.what();
+  } catch (const qb::DecodingError& e) {
+    return std::string("parse: ") + e.what();
   }
+}
+
+// Any bytes read in the reply's order give what their full parse read as a map gives: the same results or
+// the same error, whether the bytes are JSON or not, repeat keys or nest deep.
+template <class Message>
+void fuzzMessageBytes(std::string_view bytes) {
+  auto fromMap = std::make_shared<Message>();
+  const auto expected = outcome([&] {
+    fromMap->parseResponse(qb::parseJsonMap(bytes));
+    return qb::detail::tableToDictionary(Message::qbResults(), *fromMap);
+  });
+  auto fromBytes = std::make_shared<Message>();
+  check(outcome([&] {
+          fromBytes->parseResponseBytes(bytes);
+          return qb::detail::tableToDictionary(Message::qbResults(), *fromBytes);
+        }) == expected);
 }
 
 // A model read from a borrowed reply and from one given up (values moved out) must be the same.
@@ -84,13 +103,16 @@ void fuzzMessage(const qb::JsonMap& reply) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size < 1) return 0;
   const std::string_view json(reinterpret_cast<const char*>(data + 1), size - 1);
+  const std::uint8_t selector = data[0];
+  if (selector & 0x80) {
+    qb::fuzz::dispatch(qb::fuzz::DictMessages{}, selector, [&]<class T>() { fuzzMessageBytes<T>(json); });
+  }
   qb::JsonMap reply;
   try {
     reply = qb::parseJsonMap(json);
   } catch (const qb::DecodingError&) {
     return 0;
   }
-  const std::uint8_t selector = data[0];
   if (selector & 0x80) {
     qb::fuzz::dispatch(qb::fuzz::DictMessages{}, selector, [&]<class T>() { fuzzMessage<T>(reply); });
   } else {

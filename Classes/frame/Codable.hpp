@@ -13,6 +13,10 @@
 // optional (if-present form); any other member is required.
 #pragma once
 
+#include <QBComponentAPI/frame/Date.hpp>
+#include <QBComponentAPI/frame/Enum.hpp>
+#include <QBComponentAPI/frame/HostTypes.hpp>
+#include <QBComponentAPI/frame/detail/NameTable.hpp>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -24,11 +28,6 @@
 #include <type_traits>
 #include <utility>
 #include <vector>
-
-#include <QBComponentAPI/frame/detail/NameTable.hpp>
-#include <QBComponentAPI/frame/Date.hpp>
-#include <QBComponentAPI/frame/Enum.hpp>
-#include <QBComponentAPI/frame/HostTypes.hpp>
 
 namespace qb {
 
@@ -62,7 +61,9 @@ constexpr std::tuple<Keys...> codingKeys(Keys... keys) {
 
 /// A record with a coding-key declaration.
 template <class T>
-concept Codable = requires { std::tuple_size<std::remove_cv_t<decltype(T::codingKeys)>>::value; };
+concept Codable = requires {
+  std::tuple_size<std::remove_cv_t<decltype(T::codingKeys)>>::value;
+};
 
 template <class T>
 struct IsOptional : std::false_type {};
@@ -88,10 +89,12 @@ template <class T>
 struct CodingKeyNames {
   static constexpr std::array<std::string_view, keyCount<T>> names = [] {
     std::array<std::string_view, keyCount<T>> out{};
-    std::apply([&](const auto&... k) {
-      std::size_t i = 0;
-      ((out[i++] = k.name), ...);
-    }, T::codingKeys);
+    std::apply(
+        [&](const auto&... k) {
+          std::size_t i = 0;
+          ((out[i++] = k.name), ...);
+        },
+        T::codingKeys);
     return out;
   }();
 };
@@ -104,9 +107,7 @@ struct KeyTable : NameTable<CodingKeyNames<T>::names> {};
 /// Calls f(std::integral_constant<std::size_t, I>{}) for the key index I equal to the runtime `index`.
 template <class T, class F>
 constexpr void visitKeyIndex(int index, F&& f) {
-  [&]<std::size_t... I>(std::index_sequence<I...>) {
-    (void)((index == static_cast<int>(I) ? (f(std::integral_constant<std::size_t, I>{}), true) : false) || ...);
-  }(std::make_index_sequence<keyCount<T>>{});
+  visitIndex<keyCount<T>>(index, std::forward<F>(f));
 }
 
 /// Calls f(key) for the key with runtime index `index`.

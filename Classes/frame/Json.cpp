@@ -14,7 +14,6 @@
 #include <QBComponentAPI/frame/Errors.hpp>
 #include <QBComponentAPI/frame/detail/JsonBuffer.hpp>
 #include <QBComponentAPI/frame/detail/JsonFault.hpp>
-#include <QBComponentAPI/frame/detail/ReplyValue.hpp>
 
 namespace qb {
 namespace {
@@ -462,12 +461,6 @@ simdjson::dom::element parseRoot(JsonText json) {
   return root;
 }
 
-[[noreturn]] void throwNotAnObject(const JsonValue& value) {
-  throw DecodingError(
-      DecodingError::Kind::typeMismatch, {},
-      std::string("Expected to decode an object but found ") + std::string(describeKind(value)) + " instead.");
-}
-
 }  // namespace
 
 JsonValue parseJson(JsonText json, boost::json::storage_ptr storage) {
@@ -479,69 +472,13 @@ JsonValue parseJson(JsonText json, boost::json::storage_ptr storage) {
 
 JsonMap parseJsonMap(JsonText bytes, boost::json::storage_ptr storage) {
   JsonValue value = parseJson(bytes, std::move(storage));
-  if (!value.is_object()) throwNotAnObject(value);
+  if (!value.is_object()) {
+    throw DecodingError(
+        DecodingError::Kind::typeMismatch, {},
+        std::string("Expected to decode an object but found ") + std::string(describeKind(value)) + " instead.");
+  }
   return std::move(value.get_object());
 }
-
-namespace detail {
-
-// A ReplyValue holds a simdjson::dom::element's bytes: its document and its index in the document's tape.
-struct ReplyValueAccess {
-  static_assert(sizeof(simdjson::dom::element) == sizeof(ReplyValue::Handle));
-  static_assert(std::is_trivially_copyable_v<simdjson::dom::element>);
-
-  static simdjson::dom::element element(const ReplyValue& value) noexcept {
-    simdjson::dom::element out;
-    std::memcpy(static_cast<void*>(&out), &value.handle_, sizeof out);
-    return out;
-  }
-  static ReplyValue of(simdjson::dom::element element) noexcept {
-    ReplyValue out;
-    std::memcpy(&out.handle_, static_cast<const void*>(&element), sizeof element);
-    return out;
-  }
-};
-
-bool ReplyValue::isNull() const noexcept { return ReplyValueAccess::element(*this).is_null(); }
-bool ReplyValue::isObject() const noexcept {
-  return ReplyValueAccess::element(*this).type() == simdjson::dom::element_type::OBJECT;
-}
-bool ReplyValue::isArray() const noexcept {
-  return ReplyValueAccess::element(*this).type() == simdjson::dom::element_type::ARRAY;
-}
-
-JsonValue ReplyValue::value() const {
-  JsonValue out;
-  convertInto(ReplyValueAccess::element(*this), out);
-  return out;
-}
-
-std::size_t ReplyValue::size() const noexcept {
-  const simdjson::dom::array array = ReplyValueAccess::element(*this).get_array().value_unsafe();
-  return array.size();
-}
-
-void ReplyValue::members(MemberFn f, void* context) const {
-  const simdjson::dom::object object = ReplyValueAccess::element(*this).get_object().value_unsafe();
-  for (auto field : object) f(context, field.key, ReplyValueAccess::of(field.value));
-}
-
-void ReplyValue::elements(ElementFn f, void* context) const {
-  const simdjson::dom::array array = ReplyValueAccess::element(*this).get_array().value_unsafe();
-  for (auto element : array) f(context, ReplyValueAccess::of(element));
-}
-
-ReplyValue parseReplyObject(JsonText bytes) {
-  const simdjson::dom::element root = parseRoot(bytes);
-  if (root.type() != simdjson::dom::element_type::OBJECT) {
-    JsonValue value;
-    convertInto(root, value);
-    throwNotAnObject(value);
-  }
-  return ReplyValueAccess::of(root);
-}
-
-}  // namespace detail
 
 static EncodingError unwritable() {
   return EncodingError({},

@@ -39,8 +39,10 @@ class QBMessageBase {
   virtual QBMessageBase& parseResponse(JsonMap&& reply) { return parseResponse(static_cast<const JsonMap&>(reply)); }
   /// The same from the reply's bytes, as the host receives them: parses them and reads the results,
   /// throwing what parseJsonMap throws for bytes that are not a JSON object. Messages of this library
-  /// read their results and models from the parsed reply directly, without building it as a JsonMap
-  /// first; a message that does not override it parses with parseJsonMap and calls parseResponse.
+  /// read their results and models from the bytes as the parser reaches them, without building the
+  /// reply as a JsonMap (a reply that is not valid JSON, or repeats a key, is parsed in full and read as
+  /// a map, so the outcome is always that of parseResponse(parseJsonMap(reply))); a message that does not
+  /// override it parses with parseJsonMap and calls parseResponse.
   virtual QBMessageBase& parseResponseBytes(JsonText reply);
 
  protected:

@@ -325,68 +325,72 @@ void storeResult(Owner& owner, const dict::Field<Owner, T>& field, std::optional
   }
 }
 
-// The same operations for a value of a parsed reply, building only what the property keeps: a nested
-// model reads its own fields from the reply, never from a map built for it.
+// The same operations for a value of a reply read in order (see ReplyValue), building only what the
+// property keeps: a nested model reads its own fields from the reply, never from a map built for it. A
+// value of another shape than the property needs ends the reading: the full parse reports it.
 inline bool isNullValue(const ReplyValue& value) { return value.isNull(); }
 inline bool isObjectValue(const ReplyValue& value) { return value.isObject(); }
 inline std::int64_t readInteger(const ReplyValue& value, std::string_view key) { return toInteger(value.value(), key); }
 inline JsonValue take(const ReplyValue& value) { return value.value(); }
 inline JsonMap takeMap(const ReplyValue& value) { return std::move(value.value().get_object()); }
 template <class M>
-std::shared_ptr<M> readModel(const ReplyValue& value, std::string_view key) {
-  if (!value.isObject()) throwNotA("an object", key, value.value());
+std::shared_ptr<M> readModel(const ReplyValue& value, std::string_view) {
+  if (!value.isObject()) throwReplyRetry();
   return M::initWithReply(value);
 }
-inline JsonList readList(const ReplyValue& value, std::string_view key) {
-  if (!value.isArray()) throwNotA("an array", key, value.value());
+inline JsonList readList(const ReplyValue& value, std::string_view) {
+  if (!value.isArray()) throwReplyRetry();
   return std::move(value.value().get_array());
 }
 template <class M>
-std::vector<std::shared_ptr<M>> readModelList(const ReplyValue& value, std::string_view key) {
-  if (!value.isArray()) throwNotA("an array", key, value.value());
+std::vector<std::shared_ptr<M>> readModelList(const ReplyValue& value, std::string_view) {
+  if (!value.isArray()) throwReplyRetry();
   std::vector<std::shared_ptr<M>> models;
-  models.reserve(value.size());
   value.forEachElement([&](const ReplyValue& element) {
-    // The error names the element: "faqs[2]".
-    if (!element.isObject()) {
-      throwNotA("an object", std::string(key) + '[' + std::to_string(models.size()) + ']', element.value());
-    }
+    if (!element.isObject()) throwReplyRetry();
     models.push_back(M::initWithReply(element));
   });
   return models;
 }
 
-// The reply's value under each key of the table, in declared order, or an absent one (a null pointer
-// from `at`) where the key is absent; the last of repeated keys counts, as in a map.
-template <auto TableFn>
-struct ReplyFields {
+// Calls read(I, value) for each member of `object` whose key is the I-th of the table (TableFn), in the
+// reply's order. Other members are left unread (checked and passed over).
+// A repeated key ends the reading: the full parse keeps the last value, with the error the first value
+// might have raised never raised.
+template <auto TableFn, class Read>
+void readReplyFields(const ReplyValue& object, Read&& read) {
   using Table = NameTable<TableKeys<TableFn>::names>;
-  std::array<ReplyValue, Table::count> values{};
-  std::array<bool, Table::count> present{};
-
-  explicit ReplyFields(const ReplyValue& object) {
-    if constexpr (Table::count > 0) {
-      object.forEachMember([&](std::string_view key, const ReplyValue& value) {
-        const int index = Table::find(key);
-        if (index < 0) return;
-        values[static_cast<std::size_t>(index)] = value;
-        present[static_cast<std::size_t>(index)] = true;
-      });
-    }
+  if constexpr (Table::count > 0) {
+    std::uint64_t seen = 0;
+    object.forEachMember([&](std::string_view key, const ReplyValue& value) {
+      const int index = Table::find(key);
+      if (index < 0) return;
+      const std::uint64_t bit = std::uint64_t{1} << index;
+      if (seen & bit) throwReplyRetry();
+      seen |= bit;
+      visitIndex<Table::count>(index, [&](auto i) { read(i, value); });
+    });
   }
-  const ReplyValue* at(std::size_t index) const { return present[index] ? &values[index] : nullptr; }
-};
+}
 
 template <class Model>
 std::shared_ptr<Model> modelFromReply(const ReplyValue& object) {
   auto model = std::make_shared<Model>();
-  const ReplyFields<&Model::qbFields> fields(object);
-  std::size_t index = 0;
-  forEachField(Model::qbFields(), [&]<class Owner, class T>(const dict::Field<Owner, T>& field) {
+  std::uint64_t present = 0;
+  readReplyFields<&Model::qbFields>(object, [&](auto i, const ReplyValue& value) {
+    const auto& field = std::get<decltype(i)::value>(TableKeys<&Model::qbFields>::table);
+    using T = typename FieldType<std::remove_cvref_t<decltype(field)>>::type;
     Atomic<T>& cell = (*model).*field.member;
-    const bool read = readValue<T>(field.key, fields.at(index++),
-                                   [&](auto&& value) { cell.store(std::forward<decltype(value)>(value)); });
-    if (!read && field.required) throw ParameterCheckFailException::missing(field.name, Model::kModelName);
+    if (readValue<T>(field.key, &value, [&](auto&& read) { cell.store(std::forward<decltype(read)>(read)); })) {
+      present |= std::uint64_t{1} << i;
+    }
+  });
+  std::size_t index = 0;
+  forEachField(Model::qbFields(), [&](const auto& field) {
+    if (field.required && !(present & (std::uint64_t{1} << index))) {
+      throw ParameterCheckFailException::missing(field.name, Model::kModelName);
+    }
+    ++index;
   });
   return model;
 }
@@ -416,12 +420,32 @@ void messageParseResponse(Message& message, Map& reply) {
   messageReadResults(message, [&](std::size_t i) { return values[i]; });
 }
 
-// The same from the reply's bytes: the results and their models are read from the parsed reply itself.
+// The same from the reply's bytes: the results and their models are read in the reply's order as the
+// parser reaches them, and stored only when the whole reply was read; a reply that must be read again
+// (see ReplyValue) is parsed in full and read as a map.
 template <class Message>
 void messageParseReply(Message& message, JsonText bytes) {
-  const ReplyValue root = parseReplyObject(bytes);
-  const ReplyFields<&Message::qbResults> values(root);
-  messageReadResults(message, [&](std::size_t i) { return values.at(i); });
+  using Keys = TableKeys<&Message::qbResults>;
+  using Table = std::remove_cv_t<decltype(Keys::table)>;
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    std::tuple<std::optional<typename FieldType<std::tuple_element_t<I, Table>>::type>...> read;
+    const bool whole = readReplyObject(bytes, [&](const ReplyValue& root) {
+      readReplyFields<&Message::qbResults>(root, [&](auto i, const ReplyValue& value) {
+        constexpr std::size_t at = decltype(i)::value;
+        using T = typename FieldType<std::tuple_element_t<at, Table>>::type;
+        readValue<T>(std::get<at>(Keys::table).key, &value,
+                     [&](auto&& result) { std::get<at>(read).emplace(std::forward<decltype(result)>(result)); });
+      });
+    });
+    if (!whole) {
+      JsonMap reply = parseJsonMap(bytes);
+      messageParseResponse(message, reply);
+      return;
+    }
+    // An absent integer reads as 0 and an absent value clears its property, as when read from a map.
+    (storeResult(message, std::get<I>(Keys::table), std::get<I>(read)), ...);
+  }
+  (std::make_index_sequence<std::tuple_size_v<Table>>{});
 }
 
 }  // namespace qb::detail

@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 namespace qb::detail {
 
@@ -68,5 +70,15 @@ struct NameTable {
     }
   }
 };
+
+/// Calls f(std::integral_constant<std::size_t, I>{}) for the I below N equal to the runtime `index` (a
+/// name's index in a table), and not at all when there is none.
+template <std::size_t N, class F>
+constexpr void visitIndex(int index, F&& f) {
+  [&]<std::size_t... I>(std::index_sequence<I...>) {
+    (void)((index == static_cast<int>(I) ? (f(std::integral_constant<std::size_t, I>{}), true) : false) || ...);
+  }
+  (std::make_index_sequence<N>{});
+}
 
 }  // namespace qb::detail

@@ -1,6 +1,16 @@
-// A value of a parsed reply, read where the parser laid it out: the Dictionary face reads its models from
-// these straight away, instead of building the whole reply as JSON values first and taking the models'
-// values out of those. Holds no simdjson type, so that the engine's headers stay light.
+// A value of a reply as the parser reaches it: the Dictionary face reads its models from these straight
+// away, in the reply's order, instead of building the whole reply as JSON values first and taking the
+// models' values out of those. Holds no simdjson type, so that the engine's headers stay light.
+//
+// Reading goes forward only. Each value is read at most once, by isNull() (when it is null), value() or
+// forEachMember()/forEachElement(); isNull(), isObject() and isArray() otherwise only look. A value its
+// reader leaves unread is checked as JSON and passed over once the reader returns, so that a reply read
+// this way is accepted only when all of it is valid JSON.
+//
+// Any doubt ends the reading with ReplyRetry: the text is not valid JSON, the value has another shape than
+// the reader needs, a key repeats, the nesting comes near the parser's limit. readReplyObject() then
+// answers false and the caller reads the reply again from a full parse, which decides the outcome exactly
+// (the last of repeated keys, the error a fault gets).
 #pragma once
 
 #include <QBComponentAPI/frame/Json.hpp>
@@ -9,17 +19,20 @@
 
 namespace qb::detail {
 
+/// Thrown while a reply is read in order, to have it read again from a full parse.
+struct ReplyRetry {};
+[[noreturn]] void throwReplyRetry();
+
 class ReplyValue {
  public:
   ReplyValue() = default;
 
-  bool isNull() const noexcept;
-  bool isObject() const noexcept;
-  bool isArray() const noexcept;
-  /// The value built as parseJson builds it (keys repeated in an object: the last one wins).
+  /// Whether the value is null (then it has been read).
+  bool isNull() const;
+  bool isObject() const;
+  bool isArray() const;
+  /// The value built as parseJson builds it.
   JsonValue value() const;
-  /// The number of elements of an array.
-  std::size_t size() const noexcept;
 
   /// Calls f(key, value) for each member of an object, in the reply's order.
   template <class F>
@@ -41,16 +54,27 @@ class ReplyValue {
   void members(MemberFn f, void* context) const;
   void elements(ElementFn f, void* context) const;
 
-  // The parser's handle of the value (its document and the value's place in it), copied as one block.
+  // The parser's value, copied as one block, and the number of objects and arrays around it.
   struct Handle {
-    const void* document = nullptr;
-    std::size_t index = 0;
+    const void* words[3] = {};
   };
   Handle handle_;
+  std::size_t level_ = 0;
 };
 
-/// Parses `bytes` with the thread's parser and returns the root object, which stays readable until the
-/// thread parses again. Throws as parseJsonMap does.
-ReplyValue parseReplyObject(JsonText bytes);
+/// Reads `bytes` with the thread's parser and calls read(root) with its root object, which stays
+/// readable until read returns. Returns true when the whole reply was read, and false, having read what
+/// it may, when it must be read again from a full parse (see ReplyRetry): read then discards what it
+/// read. Anything read throws other than ReplyRetry counts as the same doubt.
+template <class Read>
+bool readReplyObject(JsonText bytes, Read&& read);
+
+bool readReplyObject(JsonText bytes, void (*read)(void*, const ReplyValue&), void* context);
+
+template <class Read>
+bool readReplyObject(JsonText bytes, Read&& read) {
+  return readReplyObject(
+      bytes, [](void* context, const ReplyValue& root) { (*static_cast<Read*>(context))(root); }, &read);
+}
 
 }  // namespace qb::detail
