@@ -19,7 +19,11 @@ simdjson::ondemand::document& openDocument(JsonText json) {
   return document;
 }
 
-JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth) {
+namespace {
+
+// Builds the value in `slot` (null on entry), each member and element in place in its container, as the
+// full parse builds it: no value is built aside and moved in.
+void streamInto(simdjson::ondemand::value& value, JsonValue& slot, std::size_t depth) {
   simdjson::ondemand::json_type type;
   if (value.type().get(type)) throwStreamFailure();
   switch (type) {
@@ -27,50 +31,61 @@ JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth) {
       if (depth >= kMaxJsonDepth) throwStreamFailure();
       simdjson::ondemand::object object;
       if (value.get_object().get(object)) throwStreamFailure();
-      JsonMap map;
+      JsonMap& map = slot.emplace_object();
       for (auto result : object) {
         simdjson::ondemand::field field;
         if (std::move(result).get(field)) throwStreamFailure();
         // The key stays valid while the document is read: it points into the reply or the parser's
-        // text buffer.
-        map.insert_or_assign(fieldKey(field), streamToValue(field.value(), depth + 1));
+        // text buffer. A repeated key keeps its first place and its last value.
+        auto [at, inserted] = map.emplace(fieldKey(field), nullptr);
+        if (!inserted) at->value().emplace_null();
+        streamInto(field.value(), at->value(), depth + 1);
       }
-      return map;
+      return;
     }
     case simdjson::ondemand::json_type::array: {
       if (depth >= kMaxJsonDepth) throwStreamFailure();
       simdjson::ondemand::array array;
       if (value.get_array().get(array)) throwStreamFailure();
-      JsonList list;
+      JsonList& list = slot.emplace_array();
       for (auto result : array) {
         simdjson::ondemand::value element;
         if (std::move(result).get(element)) throwStreamFailure();
-        list.push_back(streamToValue(element, depth + 1));
+        streamInto(element, list.emplace_back(nullptr), depth + 1);
       }
-      return list;
+      return;
     }
-    case simdjson::ondemand::json_type::string: return JsonValue(readText(value));
+    case simdjson::ondemand::json_type::string: slot.emplace_string() = readText(value); return;
     case simdjson::ondemand::json_type::number: {
       const StreamNumber number = readNumber(value);
       switch (number.kind) {
-        case StreamNumber::Kind::int64: return JsonValue(number.i);
-        case StreamNumber::Kind::uint64: return JsonValue(number.u);
-        case StreamNumber::Kind::real: return JsonValue(number.d);
+        case StreamNumber::Kind::int64: slot.emplace_int64() = number.i; return;
+        case StreamNumber::Kind::uint64: slot.emplace_uint64() = number.u; return;
+        case StreamNumber::Kind::real: slot.emplace_double() = number.d; return;
       }
       throwStreamFailure();
     }
     case simdjson::ondemand::json_type::boolean: {
       bool b;
       if (value.get_bool().get(b)) throwStreamFailure();
-      return JsonValue(b);
+      slot.emplace_bool() = b;
+      return;
     }
     case simdjson::ondemand::json_type::null: {
       bool null = false;
       if (value.is_null().get(null) || !null) throwStreamFailure();
-      return JsonValue(nullptr);
+      return;
     }
   }
   throwStreamFailure();
+}
+
+}  // namespace
+
+JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth) {
+  JsonValue out;
+  streamInto(value, out, depth);
+  return out;
 }
 
 }  // namespace qb::detail

@@ -7,6 +7,9 @@
 #include <QBComponentAPI/frame/detail/JsonFault.hpp>
 #include <QBComponentAPI/frame/detail/Simdjson.hpp>
 #include <charconv>
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 #include <cstring>
 #include <system_error>
 
@@ -19,11 +22,27 @@ simdjson::ondemand::document& openDocument(JsonText json);
 // By reference: the parser's value is larger than the registers it would be passed in, and this recurses.
 JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth);
 
+// The first quote or backslash at or after `p`, which lies inside a string of the reply. Reads 16 bytes at
+// a time: the string ends with a quote, and the reply's padding follows its last byte.
+inline const char* findQuoteOrBackslash(const char* p) noexcept {
+#if defined(__SSE2__)
+  const __m128i quote = _mm_set1_epi8('"');
+  const __m128i backslash = _mm_set1_epi8('\\');
+  for (;; p += 16) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    const int hits = _mm_movemask_epi8(_mm_or_si128(_mm_cmpeq_epi8(bytes, quote), _mm_cmpeq_epi8(bytes, backslash)));
+    if (hits != 0) return p + __builtin_ctz(static_cast<unsigned>(hits));
+  }
+#else
+  while (*p != '"' && *p != '\\') ++p;
+  return p;
+#endif
+}
+
 // Reads a key without unescaping it when it has no escapes (nearly always).
 inline std::string_view fieldKey(simdjson::ondemand::field& field) {
   const char* start = field.key().raw();
-  const char* end = start;
-  while (*end != '"' && *end != '\\') ++end;
+  const char* end = findQuoteOrBackslash(start);
   if (*end == '"') return {start, static_cast<std::size_t>(end - start)};
   std::string_view unescaped;
   if (field.unescaped_key().get(unescaped)) throwStreamFailure();
@@ -44,8 +63,7 @@ bool rawKeyIs(const char* raw) noexcept {
 }
 
 // A number read by its kind, as the full parse reads it: an integer past 64 bits is refused, not rounded,
-// and "-0" is the integer 0. (Not through value::get_number(): the parser version this builds against
-// reads a floating-point number of more than 19 significant digits as 0 there.)
+// and "-0" is the integer 0.
 struct StreamNumber {
   enum class Kind { int64, uint64, real } kind;
   std::int64_t i = 0;
@@ -96,23 +114,24 @@ inline double readLongDouble(std::string_view token, double parsed) {
   return d;
 }
 
+// Parsed once, kind and value together.
 inline StreamNumber readNumber(simdjson::ondemand::value& value) {
-  simdjson::ondemand::number_type type;
-  if (value.get_number_type().get(type)) throwStreamFailure();
+  simdjson::ondemand::number number;
+  if (value.get_number().get(number)) throwStreamFailure();
   StreamNumber n{StreamNumber::Kind::real};
-  switch (type) {
+  switch (number.get_number_type()) {
     case simdjson::ondemand::number_type::signed_integer:
       n.kind = StreamNumber::Kind::int64;
-      if (value.get_int64().get(n.i)) throwStreamFailure();
+      n.i = number.get_int64();
       return n;
     case simdjson::ondemand::number_type::unsigned_integer:
       n.kind = StreamNumber::Kind::uint64;
-      if (value.get_uint64().get(n.u)) throwStreamFailure();
+      n.u = number.get_uint64();
       return n;
     case simdjson::ondemand::number_type::floating_point_number:
-      if (value.get_double().get(n.d)) throwStreamFailure();
+      n.d = number.get_double();
       // Numbers of more than 19 digits are read again by the standard library: the parser version this
-      // builds against misreads some of them on this path (0.60000039333330000000001 as 0.000112...).
+      // builds against misreads them on this path (0.60000039333330000000001 as 0.000112, some as 0).
       if (const std::string_view token = value.raw_json_token(); token.size() > 20) n.d = readLongDouble(token, n.d);
       return n;
   }
