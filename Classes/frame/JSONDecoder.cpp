@@ -65,17 +65,8 @@ void streamInto(simdjson::ondemand::value& value, JsonValue& slot, std::size_t d
       }
       throwStreamFailure();
     }
-    case simdjson::ondemand::json_type::boolean: {
-      bool b;
-      if (value.get_bool().get(b)) throwStreamFailure();
-      slot.emplace_bool() = b;
-      return;
-    }
-    case simdjson::ondemand::json_type::null: {
-      bool null = false;
-      if (value.is_null().get(null) || !null) throwStreamFailure();
-      return;
-    }
+    case simdjson::ondemand::json_type::boolean: slot.emplace_bool() = readBoolean(value); return;
+    case simdjson::ondemand::json_type::null: readNull(value); return;
   }
   throwStreamFailure();
 }

@@ -50,16 +50,8 @@ void checkValue(simdjson::ondemand::value& value, std::size_t level) {
     }
     case simdjson::ondemand::json_type::string: readText(value); return;
     case simdjson::ondemand::json_type::number: readNumber(value); return;
-    case simdjson::ondemand::json_type::boolean: {
-      bool b;
-      if (value.get_bool().get(b)) throwStreamFailure();
-      return;
-    }
-    case simdjson::ondemand::json_type::null: {
-      bool null = false;
-      if (value.is_null().get(null) || !null) throwStreamFailure();
-      return;
-    }
+    case simdjson::ondemand::json_type::boolean: readBoolean(value); return;
+    case simdjson::ondemand::json_type::null: readNull(value); return;
   }
   throwStreamFailure();
 }

@@ -114,6 +114,18 @@ inline double readLongDouble(std::string_view token, double parsed) {
   return d;
 }
 
+inline bool readBoolean(simdjson::ondemand::value& value) {
+  bool b;
+  if (value.get_bool().get(b)) throwStreamFailure();
+  return b;
+}
+
+// Reads a value known to start like null, which must be exactly null.
+inline void readNull(simdjson::ondemand::value& value) {
+  bool null = false;
+  if (value.is_null().get(null) || !null) throwStreamFailure();
+}
+
 // Parsed once, kind and value together.
 inline StreamNumber readNumber(simdjson::ondemand::value& value) {
   simdjson::ondemand::number number;
@@ -152,11 +164,7 @@ class StreamNode {
     if (value_.is_null().get(null)) throwStreamFailure();
     return null;
   }
-  bool readBool() {
-    bool b;
-    if (value_.get_bool().get(b)) throwStreamFailure();
-    return b;
-  }
+  bool readBool() { return readBoolean(value_); }
   std::int64_t readInt64() {
     std::int64_t i;
     if (value_.get_int64().get(i)) throwStreamFailure();
