@@ -19,10 +19,6 @@ simdjson::ondemand::document& openDocument(JsonText json) {
   return document;
 }
 
-namespace {
-
-// Builds the value in `slot` (null on entry), each member and element in place in its container, as the
-// full parse builds it: no value is built aside and moved in.
 void streamInto(simdjson::ondemand::value& value, JsonValue& slot, std::size_t depth) {
   simdjson::ondemand::json_type type;
   if (value.type().get(type)) throwStreamFailure();
@@ -66,17 +62,12 @@ void streamInto(simdjson::ondemand::value& value, JsonValue& slot, std::size_t d
       throwStreamFailure();
     }
     case simdjson::ondemand::json_type::boolean: slot.emplace_bool() = readBoolean(value); return;
-    case simdjson::ondemand::json_type::null: readNull(value); return;
+    case simdjson::ondemand::json_type::null:
+      readNull(value);
+      slot.emplace_null();
+      return;
   }
   throwStreamFailure();
-}
-
-}  // namespace
-
-JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth) {
-  JsonValue out;
-  streamInto(value, out, depth);
-  return out;
 }
 
 }  // namespace qb::detail

@@ -2,10 +2,9 @@
 // that need a request as a map (for example to put it in a query string or a form body).
 #pragma once
 
-#include <vector>
-
 #include <QBComponentAPI/frame/Json.hpp>
 #include <QBComponentAPI/frame/detail/TypedCodec.hpp>
+#include <vector>
 
 namespace qb {
 
@@ -42,7 +41,7 @@ class JsonValueNode {
     if (!value_->is_string()) throwMismatch("String", *value_);
     return value_->get_string();
   }
-  JsonValue readAny() const { return *value_; }
+  void readAny(JsonValue& out) const { out = *value_; }
   void expectObject() const {
     if (!value_->is_object()) throwMismatch("Dictionary", *value_);
   }
@@ -97,8 +96,9 @@ class JsonValueSink {
   }
   void writeAny(const JsonValue& v) {
     if (!isWritableJson(v)) {
-      throw EncodingError({}, "The value cannot be written as JSON (a non-finite number, invalid UTF-8 or nesting too "
-                              "deep).");
+      throw EncodingError({},
+                          "The value cannot be written as JSON (a non-finite number, invalid UTF-8 or nesting too "
+                          "deep).");
     }
     put(v);
   }

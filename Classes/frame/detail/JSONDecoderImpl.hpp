@@ -19,8 +19,15 @@ namespace qb::detail {
 [[noreturn]] void throwStreamFailure();
 // The thread's document over `json` (copied into a padded buffer the thread reuses).
 simdjson::ondemand::document& openDocument(JsonText json);
-// By reference: the parser's value is larger than the registers it would be passed in, and this recurses.
-JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth);
+// Builds the value in `slot`, replacing what it held, each member and element in place in its container
+// as the full parse builds it: no value is built aside and moved in. By reference: the parser's value is
+// larger than the registers it would be passed in, and this recurses.
+void streamInto(simdjson::ondemand::value& value, JsonValue& slot, std::size_t depth);
+inline JsonValue streamToValue(simdjson::ondemand::value& value, std::size_t depth) {
+  JsonValue out;
+  streamInto(value, out, depth);
+  return out;
+}
 
 // The first quote or backslash at or after `p`, which lies inside a string of the reply. Reads 16 bytes at
 // a time: the string ends with a quote, and the reply's padding follows its last byte.
@@ -172,7 +179,7 @@ class StreamNode {
   }
   double readDouble() { return readNumber(value_).asDouble(); }
   std::string_view readString() { return readText(value_); }
-  JsonValue readAny() { return streamToValue(value_, 0); }
+  void readAny(JsonValue& out) { streamInto(value_, out, 0); }
   template <class F>
   void forEachField(F&& f) {
     simdjson::ondemand::object object;

@@ -8,7 +8,7 @@
 // and throws EncodingError for what it cannot write.
 //
 // A decoder node N offers:
-//   isNull() readBool() readInt64() readDouble() readString() -> string_view readAny() -> JsonValue
+//   isNull() readBool() readInt64() readDouble() readString() -> string_view readAny(JsonValue&)
 //   forEachElement(f(N&)) forEachField(f(string_view key, N&)) dateStrategy()
 //   and either expectObject() with find(string_view key) -> std::optional<N>: records are then read key
 //   by key in declared order, so the first failing field in declared order is the one reported;
@@ -135,7 +135,7 @@ void decodeValue(N& node, T& out) {
       out = *date;
     }
   } else if constexpr (std::is_same_v<T, AnyCodable>) {
-    out.value = node.readAny();
+    node.readAny(out.value);
   } else if constexpr (IsVector<T>::value) {
     out.clear();
     node.forEachElement([&](N& child) {
