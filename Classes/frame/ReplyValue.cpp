@@ -20,48 +20,6 @@ void checkLevel(std::size_t level) {
   if (level + kLevelMargin >= kMaxJsonDepth) throwStreamFailure();
 }
 
-// Reads a value only to check that it is valid JSON, as the full parse would check it.
-void checkValue(simdjson::ondemand::value& value, std::size_t level) {
-  simdjson::ondemand::json_type type;
-  if (value.type().get(type)) throwStreamFailure();
-  switch (type) {
-    case simdjson::ondemand::json_type::object: {
-      checkLevel(level);
-      simdjson::ondemand::object object;
-      if (value.get_object().get(object)) throwStreamFailure();
-      for (auto result : object) {
-        simdjson::ondemand::field field;
-        if (std::move(result).get(field)) throwStreamFailure();
-        fieldKey(field);  // a key with escapes is unescaped, which checks them
-        checkValue(field.value(), level + 1);
-      }
-      return;
-    }
-    case simdjson::ondemand::json_type::array: {
-      checkLevel(level);
-      simdjson::ondemand::array array;
-      if (value.get_array().get(array)) throwStreamFailure();
-      for (auto result : array) {
-        simdjson::ondemand::value element;
-        if (std::move(result).get(element)) throwStreamFailure();
-        checkValue(element, level + 1);
-      }
-      return;
-    }
-    case simdjson::ondemand::json_type::string: readText(value); return;
-    case simdjson::ondemand::json_type::number: readNumber(value); return;
-    case simdjson::ondemand::json_type::boolean: readBoolean(value); return;
-    case simdjson::ondemand::json_type::null: readNull(value); return;
-  }
-  throwStreamFailure();
-}
-
-// Checks and passes over a value its reader left unread: the parser still stands on its first token.
-void passOver(simdjson::ondemand::value& value, std::size_t level) {
-  const char* at = nullptr;
-  if (!value.current_location().get(at) && at == value.raw_json_token().data()) checkValue(value, level);
-}
-
 }  // namespace
 
 // A ReplyValue holds a simdjson::ondemand::value's bytes (its iterator's place in the document).
@@ -86,6 +44,36 @@ struct ReplyValueAccess {
     return type;
   }
 };
+
+namespace {
+
+// Reads a value only to check that it is valid JSON, as the full parse would check it: an object or an
+// array through the same walk as the models' (which checks each member or element left unread).
+void checkValue(simdjson::ondemand::value& value, std::size_t level) {
+  simdjson::ondemand::json_type type;
+  if (value.type().get(type)) throwStreamFailure();
+  switch (type) {
+    case simdjson::ondemand::json_type::object:
+      ReplyValueAccess::of(value, level).forEachMember([](std::string_view, const ReplyValue&) {});
+      return;
+    case simdjson::ondemand::json_type::array:
+      ReplyValueAccess::of(value, level).forEachElement([](const ReplyValue&) {});
+      return;
+    case simdjson::ondemand::json_type::string: readText(value); return;
+    case simdjson::ondemand::json_type::number: readNumber(value); return;
+    case simdjson::ondemand::json_type::boolean: readBoolean(value); return;
+    case simdjson::ondemand::json_type::null: readNull(value); return;
+  }
+  throwStreamFailure();
+}
+
+// Checks and passes over a value its reader left unread: the parser still stands on its first token.
+void passOver(simdjson::ondemand::value& value, std::size_t level) {
+  const char* at = nullptr;
+  if (!value.current_location().get(at) && at == value.raw_json_token().data()) checkValue(value, level);
+}
+
+}  // namespace
 
 bool ReplyValue::isNull() const {
   bool null = false;

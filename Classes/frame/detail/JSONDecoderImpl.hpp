@@ -90,17 +90,14 @@ struct StreamNumber {
 // A text value. One without escapes is read where it lies in the reply; only one with escapes is
 // unescaped, into the parser's string buffer. (The reply was checked as UTF-8 before any of it was read.)
 inline std::string_view readText(simdjson::ondemand::value& value) {
-  const std::string_view token = value.raw_json_token();  // the quoted text and the spaces after it
+  const std::string_view token = value.raw_json_token();
   if (!token.empty() && token.front() == '"') {
-    std::size_t end = token.size();
-    while (end > 1 && isJsonSpace(token[end - 1])) --end;
-    if (end >= 2 && token[end - 1] == '"') {
-      const std::string_view text = token.substr(1, end - 2);
-      // Taken as read, so that the parser checks what follows it. (Left to be skipped, a text followed
-      // by a colon would pass for a key, and the value after it with it.)
-      simdjson::ondemand::raw_json_string raw;
-      if (text.find('\\') == std::string_view::npos && !value.get_raw_json_string().get(raw)) return text;
-    }
+    const char* start = token.data() + 1;
+    const char* end = findQuoteOrBackslash(start);
+    // Taken as read, so that the parser checks what follows it. (Left to be skipped, a text followed by
+    // a colon would pass for a key, and the value after it with it.)
+    simdjson::ondemand::raw_json_string raw;
+    if (*end == '"' && !value.get_raw_json_string().get(raw)) return {start, static_cast<std::size_t>(end - start)};
   }
   std::string_view s;
   if (value.get_string().get(s)) throwStreamFailure();
