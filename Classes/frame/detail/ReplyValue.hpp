@@ -7,7 +7,7 @@
 // reader leaves unread is checked as JSON and passed over once the reader returns, so that a reply read
 // this way is accepted only when all of it is valid JSON.
 //
-// Any doubt ends the reading with ReplyRetry: the text is not valid JSON, the value has another shape than
+// Any doubt ends the reading (throwReplyRetry()): the text is not valid JSON, the value has another shape than
 // the reader needs, a key repeats, the nesting comes near the parser's limit. readReplyObject() then
 // answers false and the caller reads the reply again from a full parse, which decides the outcome exactly
 // (the last of repeated keys, the error a fault gets).
@@ -19,8 +19,7 @@
 
 namespace qb::detail {
 
-/// Thrown while a reply is read in order, to have it read again from a full parse.
-struct ReplyRetry {};
+/// Ends the reading of a reply in order, to have it read again from a full parse.
 [[noreturn]] void throwReplyRetry();
 
 class ReplyValue {
@@ -64,8 +63,8 @@ class ReplyValue {
 
 /// Reads `bytes` with the thread's parser and calls read(root) with its root object, which stays
 /// readable until read returns. Returns true when the whole reply was read, and false, having read what
-/// it may, when it must be read again from a full parse (see ReplyRetry): read then discards what it
-/// read. Anything read throws other than ReplyRetry counts as the same doubt.
+/// it may, when it must be read again from a full parse (see throwReplyRetry): read then discards what it
+/// read. Any other exception read throws counts as the same doubt.
 template <class Read>
 bool readReplyObject(JsonText bytes, Read&& read);
 
